@@ -1,0 +1,75 @@
+// What the library asks of the person in front of it. A host gives an implementation when it creates a Smes.
+#pragma once
+
+#include <deque>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+namespace velor {
+
+enum class Icon { None, Critical, Exclamation, Information };
+enum class Buttons { Ok, YesNo };
+enum class Answer { Ok, Yes, No };
+
+struct Message {
+    std::string text;  // UTF-8, lines separated by CR LF
+    Icon icon = Icon::None;
+    std::string title = "VELOR";
+    Buttons buttons = Buttons::Ok;
+
+    bool operator==(const Message&) const = default;
+};
+
+struct InputRequest {
+    std::string prompt;
+    std::string title = "VELOR";
+    std::string defaultAnswer;
+
+    bool operator==(const InputRequest&) const = default;
+};
+
+class UserInterface {
+  public:
+    virtual ~UserInterface() = default;
+
+    // Shows a modal message and returns the button pressed: Ok, or Yes or No for Buttons::YesNo.
+    virtual Answer showMessage(const Message& message) = 0;
+    // Asks for a text. Raises run-time error 62 where nobody can answer.
+    virtual std::string askText(const InputRequest& request) = 0;
+
+  protected:
+    UserInterface() = default;
+    UserInterface(const UserInterface&) = default;
+    UserInterface& operator=(const UserInterface&) = default;
+};
+
+// Questions and answers on streams. Messages and prompts go to the message stream, answers are read line by line.
+// A Yes/No question takes a, ano, y, yes or n, ne, no in either case; at the end of input the answer is No, and
+// askText raises error 62. An empty line answers a text request with its default.
+class StreamUserInterface : public UserInterface {
+  public:
+    StreamUserInterface(std::istream& answers, std::ostream& messages) : answers_(answers), messages_(messages) {}
+
+    Answer showMessage(const Message& message) override;
+    std::string askText(const InputRequest& request) override;
+
+  private:
+    std::istream& answers_;
+    std::ostream& messages_;
+};
+
+// Shows nothing and keeps everything: for tests and for hosts that report in their own way. Answers are taken from
+// the queues; where they are empty a Yes/No question gets No and askText raises error 62.
+class RecordingUserInterface : public UserInterface {
+  public:
+    std::vector<Message> messages;
+    std::vector<InputRequest> requests;
+    std::deque<Answer> nextAnswers;
+    std::deque<std::string> nextTexts;
+
+    Answer showMessage(const Message& message) override;
+    std::string askText(const InputRequest& request) override;
+};
+
+}  // namespace velor

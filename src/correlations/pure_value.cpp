@@ -1,0 +1,148 @@
+#include "correlations/pure_value.h"
+
+#include <string>
+
+#include "correlations/equations.h"
+#include "runtime/numbers.h"
+#include "runtime/windows_1250.h"
+#include "smes/messages.h"
+#include "velor/smes.h"
+
+namespace velor {
+
+namespace {
+
+constexpr int kProperties = 10;
+constexpr double kLeastCriticalTemperature = 15.0;  // helium's and unknown ones do not clamp
+constexpr double kBelowCritical = 0.98;
+constexpr std::int16_t kWater = 1;  // substance 1 of the database is water, by rule
+
+// Both rejections are tied to their message: where it is not due the evaluation goes on.
+bool rejects(State& state, int i, int k) {
+    if (!engineMessageIsDue(state)) return false;
+    if (k < 1 || k > kProperties) {
+        showCounted(state, "FFce: Chyba č.vlastnosti(1-10): " + Str(k), Icon::Exclamation);
+        return true;
+    }
+    if (i < 1 || i > state.PocSlozek) {
+        showCounted(state, "FFce: Chyba č.složky směsi (1-" + Str(state.PocSlozek) + ") : " + Str(i),
+                    Icon::Exclamation);
+        return true;
+    }
+    return false;
+}
+
+std::string substanceAndProperty(const State& state, int i, int k) {
+    const auto& name = state.slots.Latka(i).Nazev;
+    return Str(state.slots.CisloLatky(i)) + "  " + decodeWindows1250({name.data(), name.size()}) + " vlast. " +
+           std::string(propertyName(k));
+}
+
+void reportMissing(State& state, int i, int k) {
+    if (!engineMessageIsDue(state)) return;
+    showCounted(state, "FFce: " + Str(i) + ".složka " + substanceAndProperty(state, i, k) + " neni v bázi!",
+                Icon::None);
+}
+
+double reportInvalidType(State& state, double T, int i, int k, int type) {
+    const std::string temperature = std::string(kLineBreak) + "Teplota(K)= " + Format(T, "#0.0");
+    if (engineMessageIsDue(state)) {
+        showCounted(state,
+                    "FFce: Typ.korel.vzt." + Str(type) + " u látky: " + substanceAndProperty(state, i, k) + temperature,
+                    Icon::Exclamation, "VELOR Chyba");
+    }
+    if (state.ChyboveHlasky == -1) {
+        raiseToHost("VELOR - FFce", "Chyba při výpočtu vlastnosti!" + std::string(kLineBreak) +
+                                        "Látka: " + substanceAndProperty(state, i, k) + temperature);
+    }
+    return kNoValue;
+}
+
+double workingTemperature(const State& state, const TLatka& record, const TKorelace& block, double T, int k) {
+    double Tx = T;
+    // Above the critical point the liquid's correlations are evaluated just below it, on purpose.
+    if (k >= kETAL && record.Tkr > kLeastCriticalTemperature && T > record.Tkr) Tx = kBelowCritical * record.Tkr;
+    if (state.MezeTeplot > 0) {  // the caller's T is compared, not the one just set
+        if (T < block.Tmin) Tx = block.Tmin;
+        if (T > block.Tmax) Tx = block.Tmax;
+    }
+    return Tx;
+}
+
+const TKorelace& blockOf(const TLatka& record, int k) {
+    if (k < 1 || k > TLatka::kCorrelations) checked::raise(RunTimeError::kSubscript);
+    return record.Korelace[static_cast<std::size_t>(k - 1)];
+}
+
+double evaluate(State& state, double T, int i, int k) {
+    const TLatka& record = state.slots.Latka(i);
+    const TKorelace& block = blockOf(record, k);
+    if (block.Priznak == 0) [[unlikely]]
+        reportMissing(state, i, k);
+    if (!isEquationType(block.Typ)) [[unlikely]]
+        return reportInvalidType(state, T, i, k, block.Typ);
+    const double Tx = workingTemperature(state, record, block, T, k);
+    if (k == kROLW && state.slots.CisloLatky(i) == kWater) return waterDensity(Tx);
+    return evaluateEquation(block.Typ, block.A, Tx);
+}
+
+// Runs the evaluation under the trap; only what is raised to the host on purpose passes it.
+template <class Body>
+double trapped(State& state, const Body& body) {
+    try {
+        return body();
+    } catch (const RunTimeError& error) {
+        if (error.number() == RunTimeError::kRaisedToHost) throw;
+        ChybaVypoctu(state, error, "FFce");
+        return kNoValue;
+    }
+}
+
+}  // namespace
+
+double FFce(State& state, double T, int i, int k) {
+    if (rejects(state, i, k)) return 0.0;
+    return trapped(state, [&] { return evaluate(state, T, i, k); });
+}
+
+std::string_view propertyName(int k) {
+    switch (k) {
+        case kETAG:
+            return "ETAG";
+        case kCPG:
+            return "CPG";
+        case kALAG:
+            return "ALAG";
+        case kROLW:
+            return "ROLW";
+        case kETAL:
+            return "ETAL";
+        case kALAL:
+            return "ALAL";
+        case kCPL:
+            return "CPL";
+        case kDHV:
+            return "DHV";
+        case kTENS:
+            return "TENS";
+        case kSIGMA:
+            return "SIGMA";
+        case 11:
+            return "Rezerva";
+        default:
+            return "Nedef. ";
+    }
+}
+
+Variant Smes::FFce(const Variant& T, int i, int k) {
+    checkedInt16(i), checkedInt16(k);
+    if (rejects(*state_, i, k)) return 0.0;
+    return trapped(*state_, [&] { return evaluate(*state_, T.toDouble(), i, k); });
+}
+
+std::string Smes::ChybRozv(int k) { return std::string(propertyName(checkedInt16(k))); }
+std::string Smes::Vztah(int Typ) { return std::string(equationText(checkedInt16(Typ))); }
+
+Variant Smes::Log10(const Variant& v) { return checked::decimalLogarithm(v.toDouble()); }
+
+}  // namespace velor

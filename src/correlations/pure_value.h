@@ -1,0 +1,17 @@
+// The value of one property of one component: what every mixture rule gathers.
+#pragma once
+
+#include <string_view>
+
+#include "smes/state.h"
+
+namespace velor {
+
+enum Property : int { kETAG = 1, kCPG, kALAG, kROLW, kETAL, kALAL, kCPL, kDHV, kTENS, kSIGMA };
+
+// See Smes::FFce.
+double FFce(State& state, double T, int i, int k);
+
+std::string_view propertyName(int k);
+
+}  // namespace velor

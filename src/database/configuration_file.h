@@ -1,0 +1,15 @@
+// VELOR.CFG: two lines of text, the second one the full path of the database.
+#pragma once
+
+#include <string>
+
+namespace velor {
+
+// The second of the two comma- or line-separated items, without the blanks around it. Errors: those of opening the
+// file; 62 when it ends before the second item.
+std::string readConfiguredPath(const std::string& configurationFile);
+
+// Writes the file anew. A path that holds a comma is written in quotes. Errors: 70, 75, 76.
+void writeConfiguredPath(const std::string& configurationFile, const std::string& databasePath);
+
+}  // namespace velor

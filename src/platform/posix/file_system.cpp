@@ -1,0 +1,198 @@
+#include "platform/file_system.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "runtime/checked.h"
+#include "runtime/text.h"
+
+namespace velor::platform {
+
+const char kPathSeparator = '/';
+
+namespace {
+
+using Folder = std::unique_ptr<DIR, decltype([](DIR* folder) { closedir(folder); })>;
+
+class Descriptor {
+  public:
+    explicit Descriptor(int descriptor) : descriptor_(descriptor) {}
+    ~Descriptor() { ::close(descriptor_); }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+    int get() const { return descriptor_; }
+
+  private:
+    int descriptor_;
+};
+
+std::string folderOf(const std::string& path) {
+    const std::size_t separator = path.rfind(kPathSeparator);
+    if (separator == std::string::npos) return ".";
+    return path.substr(0, separator + 1);
+}
+
+std::optional<struct stat> statusOf(const std::string& path) {
+    struct stat status {};
+    // A text with a zero character would be cut there and name another file.
+    if (path.empty() || path.find('\0') != std::string::npos || ::stat(path.c_str(), &status) != 0) return std::nullopt;
+    return status;
+}
+
+[[noreturn]] void raiseFileError(int error, const std::string& path) {
+    switch (error) {
+        case ENOENT:
+            checked::raise(statusOf(folderOf(path)) ? RunTimeError::kFileNotFound : RunTimeError::kPathNotFound);
+        case ENOTDIR:
+            checked::raise(RunTimeError::kPathNotFound);
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            checked::raise(RunTimeError::kPermissionDenied);
+        default:
+            checked::raise(RunTimeError::kPathFileAccess);
+    }
+}
+
+void checkPath(const std::string& path) {
+    if (path.empty() || path.find('\0') != std::string::npos) checked::raise(RunTimeError::kFileNotFound);
+}
+
+int openForReading(const std::string& path) {
+    checkPath(path);
+    // Without O_NONBLOCK the opening of a pipe would wait for a writer.
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0) raiseFileError(errno, path);
+    struct stat status {};
+    if (::fstat(descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        ::close(descriptor);
+        checked::raise(RunTimeError::kPathFileAccess);
+    }
+    return descriptor;
+}
+
+void writeAll(int descriptor, std::string_view content) {
+    while (!content.empty()) {
+        const ssize_t written = ::write(descriptor, content.data(), content.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written <= 0) checked::raise(RunTimeError::kPathFileAccess);
+        content.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+// A new file beside the path, created with the permissions of any new file.
+std::pair<int, std::string> createTemporary(const std::string& path) {
+    constexpr int kAttempts = 100;  // as many leftovers of killed processes are stepped over
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        const std::string name = path + "." + std::to_string(::getpid()) + "-" + std::to_string(attempt);
+        const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (descriptor >= 0) return {descriptor, name};
+        if (errno != EEXIST) raiseFileError(errno, path);
+    }
+    checked::raise(RunTimeError::kPathFileAccess);
+}
+
+// Null for what is no folder, may not be read, or is a link. A separator at the end would make the system follow the
+// link, so it is taken off.
+Folder openFolder(std::string path) {
+    if (path.find('\0') != std::string::npos) return nullptr;
+    while (path.size() > 1 && path.back() == kPathSeparator) path.pop_back();
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+    if (descriptor < 0) return nullptr;
+    Folder folder(fdopendir(descriptor));
+    if (!folder) ::close(descriptor);
+    return folder;
+}
+
+}  // namespace
+
+std::string withSeparator(std::string_view folder) {
+    std::string path(trimBlanks(folder));
+    if (path.empty() || path.back() != kPathSeparator) path += kPathSeparator;
+    return path;
+}
+
+ReadOnlyFile::ReadOnlyFile(const std::string& path) : handle_(openForReading(path)) {}
+
+ReadOnlyFile::~ReadOnlyFile() { ::close(static_cast<int>(handle_)); }
+
+std::int64_t ReadOnlyFile::size() const {
+    struct stat status {};
+    if (::fstat(static_cast<int>(handle_), &status) != 0) checked::raise(RunTimeError::kPathFileAccess);
+    return status.st_size;
+}
+
+std::size_t ReadOnlyFile::readAt(std::int64_t offset, std::span<char> bytes) const {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        const ssize_t count = ::pread(static_cast<int>(handle_), bytes.data() + done, bytes.size() - done,
+                                      static_cast<off_t>(offset + static_cast<std::int64_t>(done)));
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0) checked::raise(RunTimeError::kPathFileAccess);
+        if (count == 0) break;
+        done += static_cast<std::size_t>(count);
+    }
+    return done;
+}
+
+std::string readText(const std::string& path, std::size_t mostBytes) {
+    const ReadOnlyFile file(path);
+    std::string text(std::min(mostBytes, static_cast<std::size_t>(file.size())), '\0');
+    text.resize(file.readAt(0, text));
+    return text;
+}
+
+std::string fileName(const std::string& path) {
+    const auto status = statusOf(path);
+    if (!status || !S_ISREG(status->st_mode)) return {};
+    return path.substr(path.rfind(kPathSeparator) + 1);
+}
+
+void deleteFile(const std::string& path) {
+    checkPath(path);
+    if (::unlink(path.c_str()) != 0) raiseFileError(errno, path);
+}
+
+void replaceFile(const std::string& path, std::string_view content) {
+    checkPath(path);
+    const auto [descriptor, temporary] = createTemporary(path);
+    const Descriptor file(descriptor);
+    try {
+        writeAll(file.get(), content);
+        const auto replaced = statusOf(path);
+        if (replaced && ::fchmod(file.get(), replaced->st_mode & 07777U) != 0) raiseFileError(errno, path);
+        if (::fsync(file.get()) != 0) checked::raise(RunTimeError::kPathFileAccess);
+        if (std::rename(temporary.c_str(), path.c_str()) != 0) raiseFileError(errno, path);
+    } catch (const RunTimeError&) {
+        ::unlink(temporary.c_str());
+        throw;
+    }
+}
+
+std::vector<FolderEntry> listFolder(const std::string& folder) {
+    std::vector<FolderEntry> entries;
+    const Folder open = openFolder(folder);
+    struct stat own {};
+    if (!open || ::fstat(dirfd(open.get()), &own) != 0) return entries;
+    while (const dirent* entry = readdir(open.get())) {
+        const std::string name = entry->d_name;
+        struct stat status {};
+        if (name == "." || name == "..") continue;
+        if (::fstatat(dirfd(open.get()), entry->d_name, &status, AT_SYMLINK_NOFOLLOW) != 0) continue;
+        const bool isFolder = S_ISDIR(status.st_mode) && status.st_dev == own.st_dev;
+        if (isFolder || S_ISREG(status.st_mode)) entries.push_back({name, isFolder});
+    }
+    std::sort(entries.begin(), entries.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
+    return entries;
+}
+
+}  // namespace velor::platform

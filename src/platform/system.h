@@ -1,0 +1,25 @@
+// What the operating system knows beside files.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "velor/user_interface.h"
+
+namespace velor::platform {
+
+// The folder of the file that this library was loaded from, with the separator at its end; the program's own folder
+// when the library is linked statically.
+std::string libraryFolder();
+
+// The drives in the order in which they are searched, each with the separator at its end.
+std::vector<std::string> volumes();
+
+// Today in the system's short date format.
+std::string shortDate();
+
+// Boxes for a host that brings no user interface of its own.
+std::unique_ptr<UserInterface> defaultUserInterface();
+
+}  // namespace velor::platform

@@ -1,0 +1,78 @@
+#include "velor/user_interface.h"
+
+#include <istream>
+#include <ostream>
+
+#include "runtime/checked.h"
+#include "runtime/text.h"
+
+namespace velor {
+
+namespace {
+
+const char* iconMark(Icon icon) {
+    switch (icon) {
+        case Icon::Critical:
+            return "(X) ";
+        case Icon::Exclamation:
+            return "(!) ";
+        case Icon::Information:
+            return "(i) ";
+        case Icon::None:
+            break;
+    }
+    return "";
+}
+
+// Terminals want lines ended by LF alone.
+std::string withoutCarriageReturns(const std::string& text) {
+    std::string lines;
+    for (const char c : text)
+        if (c != '\r') lines += c;
+    return lines;
+}
+
+template <class Value>
+Value takeFirst(std::deque<Value>& queue) {
+    Value first = std::move(queue.front());
+    queue.pop_front();
+    return first;
+}
+
+}  // namespace
+
+Answer StreamUserInterface::showMessage(const Message& message) {
+    messages_ << iconMark(message.icon) << message.title << ": " << withoutCarriageReturns(message.text) << std::endl;
+    if (message.buttons == Buttons::Ok) return Answer::Ok;
+    for (std::string line;;) {
+        messages_ << "[a/n] " << std::flush;
+        if (!std::getline(answers_, line)) return Answer::No;
+        const std::string answer = upperCase(trimBlanks(withoutCarriageReturns(line)));
+        if (answer == "A" || answer == "ANO" || answer == "Y" || answer == "YES") return Answer::Yes;
+        if (answer == "N" || answer == "NE" || answer == "NO") return Answer::No;
+    }
+}
+
+std::string StreamUserInterface::askText(const InputRequest& request) {
+    messages_ << request.title << ": " << withoutCarriageReturns(request.prompt);
+    if (!request.defaultAnswer.empty()) messages_ << " [" << request.defaultAnswer << "]";
+    messages_ << ' ' << std::flush;
+    std::string line;
+    if (!std::getline(answers_, line)) checked::raise(RunTimeError::kInputPastEnd);
+    line = withoutCarriageReturns(line);
+    return line.empty() ? request.defaultAnswer : line;
+}
+
+Answer RecordingUserInterface::showMessage(const Message& message) {
+    messages.push_back(message);
+    if (message.buttons == Buttons::Ok) return Answer::Ok;
+    return nextAnswers.empty() ? Answer::No : takeFirst(nextAnswers);
+}
+
+std::string RecordingUserInterface::askText(const InputRequest& request) {
+    requests.push_back(request);
+    if (nextTexts.empty()) checked::raise(RunTimeError::kInputPastEnd);
+    return takeFirst(nextTexts);
+}
+
+}  // namespace velor

@@ -1,0 +1,36 @@
+// Numbers and texts, independent of any locale.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace velor {
+
+// Rounds to the nearest integer, halves to even; beyond the type's range or not finite is error 6.
+std::int16_t roundToInt16(double value);
+
+// A 16-bit argument that arrives as int: beyond the range is error 6.
+std::int16_t checkedInt16(int value);
+
+// The longest number at the start of the text: leading blanks, sign, digits with one ".", exponent. Reading stops at
+// the first character that cannot continue it; 0 where there is none. Beyond double precision is error 6.
+double parseLeadingNumber(std::string_view text);
+
+// A text that is one number and nothing else but blanks around it, with "," or "." as the decimal separator; empty
+// otherwise. Beyond double precision is error 6.
+std::optional<double> parseWholeNumber(std::string_view text);
+
+// Decimal text of n with a leading blank where n is not negative.
+std::string Str(std::int32_t n);
+
+// The number in at most 15 significant digits, "1E-05" style beyond the fixed range.
+std::string shortestText(double value);
+
+// Text of a number by a pattern of "#" and "0" digits, one "." and an exponent "E+00" or "E-00". Rounds the decimal
+// number of 15 significant digits, halves away from zero; a negative that rounds to zero keeps no sign.
+// Errors: 5 a pattern of another form, 6 a value that is not finite.
+std::string Format(double value, std::string_view pattern);
+
+}  // namespace velor

@@ -1,0 +1,226 @@
+// FFce: every message to the letter, every mode, the budget, and the temperature that is worked with.
+#include <gtest/gtest.h>
+
+#include <limits>
+
+#include "support/sample_mixture.h"
+
+namespace velor {
+namespace {
+
+using test::errorNumber;
+using test::SampleMixture;
+using test::sampleSubstance;
+
+// Component 1 is complete; 2 lacks ETAG (block zero); 3 has a type of 20 in CPG, 4 a type of -3 there; 5 divides by
+// zero in ALAG.
+std::vector<TLatka> substances() {
+    std::vector<TLatka> records;
+    for (int number = 1; number <= 5; ++number)
+        records.push_back(sampleSubstance(number + 1, "Látka č. " + std::to_string(number)));
+    records.insert(records.begin(), sampleSubstance(1, "Voda"));
+    records[2].Korelace[0] = {};
+    records[3].Korelace[1].Typ = 20;
+    records[4].Korelace[1].Typ = -3;
+    records[5].Korelace[2] = {{1, 1, -300}, 6, 1, 200, 400};
+    return records;
+}
+
+struct FFceTest : ::testing::Test {
+    SampleMixture mixture{substances()};
+    Smes& smes = mixture.smes;
+    std::vector<Message>& messages = mixture.boxes.messages;
+
+    FFceTest() { smes.DefSlozky(List({2, 3, 4, 5, 6})); }
+};
+
+const std::string kName3 = "Látka č. 2                    ", kName4 = "Látka č. 3                    ",
+                  kName5 = "Látka č. 4                    ";
+
+TEST_F(FFceTest, showsEachMessage) {
+    struct Case {
+        Variant T;
+        int i, k;
+        double result;
+        std::vector<Message> messages;
+    };
+    const Message noType{"FFce: Typ.korel.vzt. 0 u látky:  3  " + kName3 + " vlast. ETAG\r\nTeplota(K)= 300.0",
+                         Icon::Exclamation, "VELOR Chyba"};
+    const Message notGiven{"FFce:  2.složka  3  " + kName3 + " vlast. ETAG neni v bázi!", Icon::None, "VELOR"};
+    const Case cases[] = {
+        {300, 1, 1, 301, {}},
+        {300, 1, 0, 0, {{"FFce: Chyba č.vlastnosti(1-10):  0", Icon::Exclamation, "VELOR"}}},
+        {300, 1, 11, 0, {{"FFce: Chyba č.vlastnosti(1-10):  11", Icon::Exclamation, "VELOR"}}},
+        {300, 99, -1, 0, {{"FFce: Chyba č.vlastnosti(1-10): -1", Icon::Exclamation, "VELOR"}}},
+        {300, 0, 1, 0, {{"FFce: Chyba č.složky směsi (1- 5) :  0", Icon::Exclamation, "VELOR"}}},
+        {300, 6, 1, 0, {{"FFce: Chyba č.složky směsi (1- 5) :  6", Icon::Exclamation, "VELOR"}}},
+        {"text", 6, 1, 0, {{"FFce: Chyba č.složky směsi (1- 5) :  6", Icon::Exclamation, "VELOR"}}},
+        {300, 2, 1, 1E-8, {notGiven, noType}},
+        {300.25,
+         3,
+         2,
+         1E-8,
+         {{"FFce: Typ.korel.vzt. 20 u látky:  4  " + kName4 + " vlast. CPG\r\nTeplota(K)= 300.3", Icon::Exclamation,
+           "VELOR Chyba"}}},
+        {"300,25",
+         4,
+         2,
+         1E-8,
+         {{"FFce: Typ.korel.vzt.-3 u látky:  5  " + kName5 + " vlast. CPG\r\nTeplota(K)= 300.3", Icon::Exclamation,
+           "VELOR Chyba"}}},
+        // Errors in the evaluation: positive numbers show no box.
+        {300, 5, 3, 1E-8, {}},
+        {"abc", 1, 1, 1E-8, {}},
+        {Variant::null(), 1, 1, 1E-8, {}},
+        {std::numeric_limits<double>::quiet_NaN(), 1, 1, 1E-8, {}},
+        {Variant(), 1, 1, 1, {}},
+        {"350", 1, 1, 351, {}},
+        {-20, 1, 1, -19, {}},
+    };
+    for (const Case& c : cases) {
+        messages.clear();
+        const int before = smes.PocHlasek();
+        EXPECT_EQ(smes.FFce(c.T, c.i, c.k), Variant(c.result)) << c.i << ' ' << c.k;
+        EXPECT_EQ(messages, c.messages) << c.i << ' ' << c.k;
+        EXPECT_EQ(smes.PocHlasek() - before, static_cast<int>(c.messages.size()));
+    }
+    EXPECT_EQ(errorNumber([&] { smes.FFce(300, 40000, 1); }), RunTimeError::kOverflow);
+}
+
+TEST_F(FFceTest, raisesInModeMinusOne) {
+    smes.ChyboveHlasky(-1);
+    struct Case {
+        int i, k;
+        const char* source;
+        std::string description;
+        std::size_t boxes;
+    };
+    const Case cases[] = {
+        {2, 1, "VELOR - FFce",
+         "Chyba při výpočtu vlastnosti!\r\nLátka:  3  " + kName3 + " vlast. ETAG\r\nTeplota(K)= 300.0", 2},
+        {3, 2, "VELOR - FFce",
+         "Chyba při výpočtu vlastnosti!\r\nLátka:  4  " + kName4 + " vlast. CPG\r\nTeplota(K)= 300.0", 1},
+        {5, 3, "FFce", "Chyba při výpočtu vlastnosti!", 0},
+    };
+    for (const int limit : {20, 0}) {  // the error is raised whether or not the box may be shown
+        smes.MaxErrHlas(limit);
+        for (const Case& c : cases) {
+            messages.clear();
+            try {
+                smes.FFce(300, c.i, c.k);
+                ADD_FAILURE() << "nothing raised for " << c.i;
+            } catch (const RunTimeError& error) {
+                EXPECT_EQ(error.number(), static_cast<std::int32_t>(0x80040258));
+                EXPECT_EQ(error.source(), c.source);
+                EXPECT_EQ(error.description(), c.description);
+            }
+            EXPECT_EQ(messages.size(), limit == 0 ? 0U : c.boxes);
+        }
+    }
+    smes.MaxErrHlas(20);
+    EXPECT_EQ(smes.FFce(300, 1, 11), Variant(0.0));  // a rejection is never raised
+}
+
+TEST_F(FFceTest, goesOnWhereNoMessageIsDue) {
+    const auto check = [&] {
+        messages.clear();
+        EXPECT_EQ(smes.FFce(300, 1, 11), Variant(1E-8));  // the reserved block has no type
+        EXPECT_EQ(smes.FFce(300, 1, 12), Variant(1E-8));  // no such block
+        EXPECT_EQ(smes.FFce(300, 0, 1), Variant(1E-8));   // no such slot
+        EXPECT_EQ(smes.FFce(300, 21, 1), Variant(1E-8));
+        EXPECT_EQ(smes.FFce(300, 6, 1), Variant(1E-8));  // a slot without a record
+        EXPECT_EQ(smes.FFce(300, 2, 1), Variant(1E-8));
+        EXPECT_EQ(messages, std::vector<Message>{});
+    };
+    for (const int mode : {1, 2}) {
+        smes.ChyboveHlasky(mode);
+        check();
+    }
+    smes.ChyboveHlasky(0);
+    smes.MaxErrHlas(0);
+    check();
+}
+
+TEST_F(FFceTest, spendsTheBudgetOnceForAll) {
+    for (int call = 1; call <= 30; ++call) {
+        const Variant value = smes.FFce(300, 1, 11);
+        EXPECT_EQ(value, Variant(call <= 20 ? 0.0 : 1E-8)) << call;
+    }
+    EXPECT_EQ(messages.size(), 20U);
+    EXPECT_EQ(smes.PocHlasek(), 20);
+    // The last message of a call may still be due, the next one not.
+    smes.MaxErrHlas(21);
+    smes.FFce(300, 2, 1);
+    EXPECT_EQ(messages.size(), 21U);
+    EXPECT_TRUE(messages.back().text.ends_with("neni v bázi!"));
+}
+
+TEST_F(FFceTest, choosesTheWorkingTemperature) {
+    struct Case {
+        double T;
+        int k;
+        bool limits;
+        double Tx;
+    };
+    const Case cases[] = {
+        {600, 4, false, 600},   // below property 5 nothing is clamped at the critical temperature of 500 K
+        {600, 5, false, 490},   // 0.98 of it
+        {500, 10, false, 500},  // at it
+        {10, 5, false, 10},    {10, 1, true, 200},
+        {450, 1, true, 400},   {600, 5, true, 400},  // the caller's temperature is compared, so the range wins
+        {300, 5, true, 300},
+    };
+    for (const Case& c : cases) {
+        c.limits ? smes.MezeZap() : smes.MezeVyp();
+        EXPECT_DOUBLE_EQ(smes.FFce(c.T, 1, c.k).toDouble(), c.Tx + c.k) << c.T << ' ' << c.k;
+    }
+    // Where the range ends above 0.98 of the critical temperature, that one stays.
+    smes.VLRConst(1, 5, 10, 700);
+    smes.MezeZap();
+    EXPECT_DOUBLE_EQ(smes.FFce(600, 1, 5).toDouble(), 490 + 5);
+}
+
+TEST_F(FFceTest, clampsAtNoCriticalTemperatureUpTo15K) {
+    TLatka helium = sampleSubstance(2, "Helium");
+    helium.Tkr = 15.0F;
+    SampleMixture other({sampleSubstance(1, "Voda"), helium});
+    other.smes.DefSlozky(List({2}));
+    EXPECT_DOUBLE_EQ(other.smes.FFce(20, 1, 9).toDouble(), 29);
+}
+
+TEST_F(FFceTest, hasItsOwnDensityOfWater) {
+    smes.DefSlozky(List({1, 2, 2, 2, 2}));
+    EXPECT_NEAR(smes.FFce(298.15, 1, 4).toDouble(), 996.9993307629656, 1e-9);
+    EXPECT_DOUBLE_EQ(smes.FFce(298.15, 1, 5).toDouble(), 303.15);
+    EXPECT_EQ(smes.FFce(650, 1, 4), Variant(1E-8));  // above water's critical point: no power of a negative number
+    smes.MezeZap();
+    EXPECT_NEAR(smes.FFce(650, 1, 4).toDouble(), smes.FFce(400, 1, 4).toDouble(), 1e-12);
+}
+
+TEST(ShownNumbers, haveTheirFormats) {
+    const std::pair<Variant, const char*> cases[] = {
+        {-9999, " neobsazeno "},   {-9999.00001, " neobsazeno "}, {-9998.9, "    -9999    "}, {0, "   0.0000   "},
+        {5e-7, "   0.0000   "},    {1e-6, " 1.0000E-06 "},        {9.9e-5, " 9.9000E-05 "},   {1e-4, "  0.000100  "},
+        {0.00989, "  0.009890  "}, {0.0099, "   0.0099   "},      {0.99996, "   1.0000   "},  {1, "    1.000    "},
+        {-1, "   -1.000   "},      {59.9999, "   60.000   "},     {60, "    60.00    "},      {100, "    100.0    "},
+        {999.99, "   1000.0   "},  {1000, "    1000    "},        {999998.4, "   999998   "}, {999999, " 1.0000E+06 "},
+        {-101325, "  -101325  "},  {12345, "    12345    "},      {-12.345, "  -12.345  "},   {"1,5", "    1.500    "},
+    };
+    for (const auto& [value, text] : cases) EXPECT_EQ(Smes::GFormat(value), text) << value.toText();
+    EXPECT_EQ(errorNumber([] { Smes::GFormat("x"); }), RunTimeError::kTypeMismatch);
+}
+
+TEST(Names, areFixed) {
+    EXPECT_EQ(Smes::ChybRozv(1), "ETAG");
+    EXPECT_EQ(Smes::ChybRozv(10), "SIGMA");
+    EXPECT_EQ(Smes::ChybRozv(11), "Rezerva");
+    for (const int k : {0, 12, -32768}) EXPECT_EQ(Smes::ChybRozv(k), "Nedef. ");
+    EXPECT_EQ(Smes::Vztah(13),
+              " ln(y/A6) = (A1.t + A2.t^1.5 + A3.t^3 + A4.t^6) /T.A5   t=1-T/A5; A5=Tkr; A6=Pkr Wagner ");
+    for (const int type : {0, 20, -1}) EXPECT_EQ(Smes::Vztah(type), " Neznámý vztah! ");
+    EXPECT_DOUBLE_EQ(Smes::Log10("1000").toDouble(), 3);
+    EXPECT_EQ(errorNumber([] { Smes::Log10(0); }), RunTimeError::kInvalidCall);
+}
+
+}  // namespace
+}  // namespace velor

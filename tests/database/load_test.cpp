@@ -1,0 +1,212 @@
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <limits>
+
+#include "support/sample_mixture.h"
+
+namespace velor {
+namespace {
+
+using test::blankRecord;
+using test::errorNumber;
+using test::readFile;
+using test::SampleMixture;
+using test::sampleSubstance;
+
+// Records 1, 2 and 4 are substances, 3 is blank, 5 begins with zero bytes, the rest is blank; the file ends at 8.
+std::vector<TLatka> substances() {
+    TLatka zero = sampleSubstance(5, "");
+    zero.Nazev.fill('\0');
+    return {sampleSubstance(1, "Voda"), sampleSubstance(2, "Éthanol čistý"), blankRecord(),
+            sampleSubstance(4, "Benzen"), zero};
+}
+
+struct LoadTest : ::testing::Test {
+    SampleMixture mixture{substances()};
+    Smes& smes = mixture.smes;
+    std::vector<Message>& messages = mixture.boxes.messages;
+};
+
+Message notInDatabase(int number) {
+    return {"INIVLR: Látka č.  " + std::to_string(number) + " není v bázi!", Icon::Exclamation, "VELOR"};
+}
+
+TEST_F(LoadTest, countsTheLeadingSlots) {
+    smes.ZapisNslozky(1, 2);
+    smes.ZapisNslozky(2, 4);
+    smes.ZapisNslozky(4, 1);
+    EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{2}));
+    EXPECT_EQ(smes.Mvi(2), Variant(0.046F));
+    EXPECT_EQ(smes.Mvi(4), Variant(0.0F));  // defined, not loaded
+    EXPECT_EQ(smes.Mvi(3), Variant(""));
+}
+
+TEST_F(LoadTest, readsOnceForADefinition) {
+    smes.ZapisNslozky(1, 2);
+    smes.Inivlr();
+    mixture.folder.write("VELOR.DRC", "");
+    EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{1}));
+    smes.ZapisNslozky(1, 2);
+    EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0}));
+}
+
+TEST_F(LoadTest, stopsAtTheFirstMissingSubstance) {
+    for (const int number : {3, 5, 6, 9, 32767}) {  // blank, zero bytes, blank, beyond the end
+        messages.clear();
+        smes.ZapisNslozky(1, 4);
+        smes.ZapisNslozky(2, number);
+        smes.ZapisNslozky(3, 1);
+        smes.MaxErrHlas(0);
+        EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0})) << number;
+        EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0})) << number;  // tries again
+        EXPECT_EQ(messages, (std::vector{notInDatabase(number), notInDatabase(number)}));
+        EXPECT_EQ(smes.Nazev(1).toText().substr(0, 6), "Benzen");
+        EXPECT_EQ(smes.PocHlasek(), 0);
+    }
+}
+
+TEST_F(LoadTest, acceptsZeroBytesWhileMessagesAreOff) {
+    for (const int mode : {1, 2}) {
+        smes.ZapisNslozky(1, 5);
+        smes.ChyboveHlasky(mode);
+        EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{1}));
+        smes.ZapisNslozky(1, 9);  // beyond the end: a record of zero bytes as well
+        EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{1}));
+        smes.ZapisNslozky(1, 3);
+        EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0}));  // blanks never pass
+    }
+}
+
+TEST_F(LoadTest, readsNoPartOfARecord) {
+    const std::string whole = readFile(smes.AdrVELOR());
+    mixture.folder.write("VELOR.DRC", whole.substr(0, 2 * 508 - 1));
+    smes.ZapisNslozky(1, 2);
+    EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0}));
+    EXPECT_EQ(messages, std::vector{notInDatabase(2)});
+}
+
+TEST_F(LoadTest, handsOutConstants) {
+    TLatka record = sampleSubstance(2, "Žluťoučký kůň");
+    for (int k = 1; k <= TLatka::kConstants; ++k) record.*constantMember(k) = static_cast<float>(100 * k);
+    record.Ttani = 273.15F;
+    SampleMixture other({sampleSubstance(1, "Voda"), record});
+    other.smes.DefSlozky(List({2}));
+    using Accessor = Variant (Smes::*)(int) const;
+    const std::pair<Accessor, double> variants[] = {
+        {&Smes::Mvi, 100},
+        {&Smes::Tkri, 200},
+        {&Smes::TkriC, 200 - 273.15},
+        {&Smes::Pkri, 300},
+        {&Smes::Vkri, 400},
+        {&Smes::Acenti, 500},
+        {&Smes::Gyr, 600},
+        {&Smes::Nlomui, 700},
+        {&Smes::TNlomui, 800},
+        {&Smes::TDipolm, 1000},
+        {&Smes::Permiti, 1100},
+        {&Smes::TPermiti, 1200},
+        {&Smes::Htani, 1300},
+        {&Smes::Ttani, 273.15F},
+        {&Smes::TtaniC, 0},
+        {&Smes::Tnbvi, 1500},
+        {&Smes::TnbviC, 1500 - 273.15},
+    };
+    for (const auto& [accessor, value] : variants) {
+        EXPECT_EQ((other.smes.*accessor)(1).toDouble(), value);
+        for (const int slot : {0, 21, -1}) EXPECT_EQ(errorNumber([&] { (other.smes.*accessor)(slot); }), 9);
+    }
+    EXPECT_EQ(other.smes.Dipolm(1), 900.0F);
+    // An empty slot: a text for most, the field for the rest.
+    for (const Accessor accessor : {&Smes::Mvi, &Smes::TkriC, &Smes::TnbviC, &Smes::TtaniC, &Smes::Htani, &Smes::Nlomui,
+                                    &Smes::Nazev, &Smes::Vzorec, &Smes::Synonym})
+        EXPECT_EQ((other.smes.*accessor)(2), Variant(""));
+    for (const Accessor accessor : {&Smes::TNlomui, &Smes::TDipolm, &Smes::Permiti, &Smes::TPermiti, &Smes::Gyr})
+        EXPECT_EQ((other.smes.*accessor)(2), Variant(0.0F));
+    EXPECT_EQ(other.smes.CAS(2), Variant(" "));
+}
+
+TEST_F(LoadTest, handsOutTexts) {
+    smes.DefSlozky(List({2}));
+    EXPECT_EQ(smes.Nazev(1), Variant("Éthanol čistý                 "));
+    EXPECT_EQ(smes.Vzorec(1), Variant("C2H6O               "));
+    EXPECT_EQ(smes.Synonym(1), Variant("Sample                        "));
+    smes.Inivlr();
+    smes.Nazev(1, "Nový název, který je delší než třicet znaků");
+    EXPECT_EQ(smes.Nazev(1), Variant("Nový název, který je delší než"));
+    smes.Nazev(1, "α");
+    EXPECT_EQ(smes.Nazev(1).toText(), "?" + std::string(29, ' '));
+    EXPECT_EQ(errorNumber([&] { smes.Nazev(0, "x"); }), 9);
+}
+
+TEST(RegistryNumber, isWrittenInBrackets) {
+    const std::pair<std::int32_t, const char*> cases[] = {
+        {64175, "[ 64-17-5]"}, {7732185, "[ 7732-18-5]"}, {2147483647, "[ 2147483-64-7]"}, {0, " "}, {-64175, " "},
+        {12, "[- 1-2]"},       {123, "[ -12-3]"}};
+    for (const auto& [number, text] : cases) {
+        TLatka record = sampleSubstance(1, "Voda");
+        record.CAS = number;
+        SampleMixture mixture({record});
+        mixture.smes.DefSlozky(List({1}));
+        EXPECT_EQ(mixture.smes.CAS(1), Variant(text)) << number;
+    }
+    TLatka record = sampleSubstance(1, "Voda");
+    record.CAS = 7;
+    SampleMixture mixture({record});
+    mixture.smes.DefSlozky(List({1}));
+    EXPECT_EQ(errorNumber([&] { mixture.smes.CAS(1); }), RunTimeError::kInvalidCall);
+}
+
+TEST(DamagedRecord, yieldsErrorsAndNoNonsense) {
+    TLatka record = sampleSubstance(1, "Voda");
+    record.Mv = std::numeric_limits<float>::quiet_NaN();
+    record.Tnbv = std::numeric_limits<float>::infinity();
+    record.Korelace[0].A[1] = std::numeric_limits<float>::quiet_NaN();
+    SampleMixture mixture({record});
+    mixture.smes.DefSlozky(List({1}));
+    EXPECT_EQ(errorNumber([&] { mixture.smes.Mvi(1); }), 6);
+    EXPECT_EQ(errorNumber([&] { mixture.smes.TnbviC(1); }), 6);
+    EXPECT_EQ(errorNumber([&] { mixture.smes.VLRConst(1, 1, 2); }), 6);
+    EXPECT_EQ(mixture.smes.FFce(300, 1, 1), Variant(1E-8));
+}
+
+TEST(RecordLayout, isTheFilesToTheByte) {
+    std::array<char, kRecordSize> bytes{};
+    for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * 37 + 11);
+    EXPECT_EQ(encodeRecord(decodeRecord(bytes)), bytes);
+    bytes.fill(' ');
+    const auto put = [&](std::size_t offset, std::initializer_list<int> values) {
+        for (const int value : values) bytes[offset++] = static_cast<char>(value);
+    };
+    put(0, {0x34, 0x12});
+    put(84, {0x59, 0xFB, 0x75, 0x00});
+    put(88, {0x00, 0x00, 0x80, 0x3F});
+    put(144, {0x00, 0x00, 0x20, 0xC1});
+    put(156 + 32 * 8 + 20, {0x00, 0x00, 0x00, 0x40});
+    put(156 + 32 * 8 + 24, {18, 0, 0xFF, 0xFF, 0x10, 0x01, 0xE8, 0x03});
+    const TLatka record = decodeRecord(bytes);
+    EXPECT_EQ(record.Cislo, 0x1234);
+    EXPECT_EQ(record.CAS, 7732057);
+    EXPECT_EQ(record.Mv, 1.0F);
+    EXPECT_EQ(record.Tnbv, -10.0F);
+    EXPECT_EQ(record.Korelace[8], (TKorelace{{record.Korelace[8].A[0], record.Korelace[8].A[1], record.Korelace[8].A[2],
+                                              record.Korelace[8].A[3], record.Korelace[8].A[4], 2.0F},
+                                             18,
+                                             -1,
+                                             272,
+                                             1000}));
+}
+
+TEST(Captions, areFilledOnRequest) {
+    RecordingUserInterface boxes;
+    Smes smes(boxes);
+    EXPECT_EQ(smes.PopisVlastnosti(1), "");
+    smes.inivlast();
+    EXPECT_EQ(smes.PopisVlastnosti(1), "Viskozita (g)");
+    EXPECT_EQ(smes.PopisVlastnosti(19), "Tenze par");
+    EXPECT_EQ(smes.PopisVlastnosti(34), "Joule-Thompsnův koef. (rg)");
+    EXPECT_EQ(errorNumber([&] { smes.PopisVlastnosti(35); }), 9);
+}
+
+}  // namespace
+}  // namespace velor

@@ -1,0 +1,126 @@
+// The database against published figures. CRC: CRC Handbook of Chemistry and Physics, 97th edition; NIST: NIST
+// Chemistry WebBook, SRD 69 (fluid properties after the reference equations of state).
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <string>
+
+#include "database/record_file.h"
+#include "velor/smes.h"
+
+namespace velor {
+namespace {
+
+constexpr int kETAG = 1, kCPG = 2, kALAG = 3, kROLW = 4, kETAL = 5, kALAL = 6, kCPL = 7, kDHV = 8, kTENS = 9,
+              kSIGMA = 10;
+
+int numberOf(std::int32_t registryNumber) {
+    static const std::map<std::int32_t, int> numbers = [] {
+        std::map<std::int32_t, int> found;
+        const RecordFile database(VELOR_DATABASE);
+        for (int number = 1; number <= database.count(); ++number) found[database.read(number).CAS] = number;
+        return found;
+    }();
+    const auto found = numbers.find(registryNumber);
+    return found == numbers.end() ? 0 : found->second;
+}
+
+// A mixture of one substance of the real database.
+struct Pure {
+    RecordingUserInterface boxes;
+    Smes smes{boxes};
+    explicit Pure(std::int32_t registryNumber) {
+        smes.AdrVELOR(VELOR_DATABASE);
+        smes.DefSlozky(List({numberOf(registryNumber)}));
+    }
+    double operator()(int property, double T) { return smes.FFce(T, 1, property).toDouble(); }
+};
+
+constexpr int kWater = 7732185, kEthanol = 64175, kBenzene = 71432, kMethane = 74828, kNitrogen = 7727379,
+              kCarbonDioxide = 124389, kAmmonia = 7664417;
+
+struct Published {
+    std::int32_t substance;
+    int property;
+    double T, value, percent;
+};
+
+TEST(ReferenceValues, areMetWithinTheirAccuracy) {
+    const Published figures[] = {
+        {kWater, kROLW, 298.15, 997.05, 0.1},  // NIST; the saturated liquid hardly differs from that at 101 325 Pa
+        {kWater, kTENS, 373.15, 101325, 0.5},
+        {kWater, kTENS, 298.15, 3169, 1},     // NIST
+        {kWater, kETAL, 298.15, 8.90e-4, 3},  // NIST
+        {kWater, kALAL, 298.15, 0.6065, 2},   // NIST
+        {kWater, kCPL, 298.15, 75.3, 1.5},    // NIST
+        {kWater, kDHV, 373.15, 40650, 1},     // NIST
+        {kWater, kSIGMA, 298.15, 0.0720, 1.5},
+        {kEthanol, kROLW, 298.15, 785.0, 0.7},   // CRC
+        {kEthanol, kETAL, 298.15, 1.074e-3, 5},  // CRC
+        {kEthanol, kALAL, 298.15, 0.167, 4},     // CRC
+        {kEthanol, kCPL, 298.15, 112.3, 3},      // CRC
+        {kEthanol, kDHV, 351.4, 38560, 2},       // CRC
+        {kEthanol, kTENS, 298.15, 7870, 3},      // CRC
+        {kEthanol, kSIGMA, 298.15, 0.02197, 3},  // CRC
+        {kEthanol, kCPG, 298.15, 65.6, 2},       // CRC
+        {kBenzene, kROLW, 298.15, 873.6, 0.7},   // CRC
+        {kBenzene, kETAL, 298.15, 6.04e-4, 5},   // CRC
+        {kBenzene, kALAL, 298.15, 0.1411, 4},    // CRC
+        {kBenzene, kCPL, 298.15, 136.0, 3},      // CRC
+        {kBenzene, kDHV, 353.24, 30720, 2},      // CRC
+        {kBenzene, kTENS, 298.15, 12690, 2},     // CRC
+        {kBenzene, kSIGMA, 298.15, 0.02822, 3},  // CRC
+        {kMethane, kETAG, 300, 1.112e-5, 3},     // NIST
+        {kMethane, kALAG, 300, 0.0343, 4},       // NIST
+        {kMethane, kCPG, 298.15, 35.7, 1},       // CRC
+        {kMethane, kROLW, 111.67, 422.4, 1},     // NIST
+        {kMethane, kDHV, 111.67, 8190, 2},       // NIST
+        {kNitrogen, kETAG, 300, 1.79e-5, 2},     // NIST
+        {kNitrogen, kALAG, 300, 0.0259, 3},      // NIST
+        {kNitrogen, kCPG, 298.15, 29.12, 1},     // NIST
+        {kNitrogen, kROLW, 77.36, 806.1, 1},     // NIST
+        {kNitrogen, kDHV, 77.36, 5577, 2},       // NIST
+        {kNitrogen, kSIGMA, 77.36, 0.00887, 3},  // NIST
+        {kCarbonDioxide, kETAG, 300, 1.50e-5, 2},
+        {kCarbonDioxide, kALAG, 300, 0.0168, 4},       // NIST
+        {kCarbonDioxide, kCPG, 298.15, 37.13, 1},      // CRC
+        {kCarbonDioxide, kTENS, 273.15, 3.4851e6, 1},  // NIST
+        {kCarbonDioxide, kROLW, 273.15, 927.4, 1.5},   // NIST
+        {kAmmonia, kETAG, 300, 1.02e-5, 4},            // NIST
+        {kAmmonia, kALAG, 300, 0.0251, 5},             // NIST
+        {kAmmonia, kCPG, 298.15, 35.1, 2},             // CRC
+        {kAmmonia, kTENS, 298.15, 1.003e6, 2},         // NIST
+        {kAmmonia, kROLW, 239.82, 682, 1},             // NIST
+        {kAmmonia, kDHV, 239.82, 23330, 2},            // CRC
+    };
+    for (const Published& p : figures) {
+        Pure substance(p.substance);
+        EXPECT_NEAR(substance(p.property, p.T), p.value, p.value * p.percent / 100)
+            << p.substance << ' ' << Smes::ChybRozv(p.property) << " at " << p.T;
+        EXPECT_TRUE(substance.boxes.messages.empty());
+    }
+}
+
+TEST(ReferenceValues, vapourPressuresRecoverTheBoilingPoints) {
+    const std::pair<std::int32_t, double> boilingPoints[] = {
+        // CRC, "Physical constants of organic (inorganic) compounds"
+        {kWater, 373.12}, {67561, 337.8},     {kEthanol, 351.44}, {67641, 329.20},    {kBenzene, 353.23},
+        {108883, 383.78}, {109660, 309.21},   {110543, 341.88},   {142825, 371.57},   {111659, 398.77},
+        {110827, 353.88}, {74986, 231.1},     {106978, 272.7},    {kMethane, 111.67}, {kNitrogen, 77.36},
+        {7782447, 90.2},  {kAmmonia, 239.82}, {67663, 334.32},    {60297, 307.7},     {100414, 409.33},
+        {71238, 370.4},   {67630, 355.4},     {64197, 391.1},     {62533, 457.3},
+    };
+    for (const auto& [substance, Tb] : boilingPoints) {
+        Pure pure(substance);
+        double low = 0.8 * Tb, high = 1.2 * Tb;
+        for (int halving = 0; halving < 60; ++halving) {
+            const double T = (low + high) / 2;
+            (pure(kTENS, T) < 101325 ? low : high) = T;
+        }
+        EXPECT_NEAR(low, Tb, 0.6) << substance;
+    }
+}
+
+}  // namespace
+}  // namespace velor

@@ -1,0 +1,67 @@
+#include "runtime/text.h"
+
+#include <gtest/gtest.h>
+
+#include "runtime/windows_1250.h"
+
+namespace velor {
+namespace {
+
+TEST(Windows1250, keepsEveryByte) {
+    std::string bytes;
+    for (int code = 0; code < 256; ++code) bytes += static_cast<char>(code);
+    const std::string text = decodeWindows1250(bytes);
+    EXPECT_EQ(characterCount(text), 256U);
+    EXPECT_EQ(encodeWindows1250(text), bytes);
+}
+
+TEST(Windows1250, holdsCzechAndRefusesTheRest) {
+    EXPECT_EQ(encodeWindows1250("Žluťoučký kůň"), "\x8Elu\x9Dou\xE8k\xFD k\xF9\xF2");
+    EXPECT_EQ(decodeWindows1250("l\xE1tka \x80"), "látka €");
+    for (const char* text : {"α", "…\xFF", "\xC3", "\xED\xA0\x80", "\xF0\x9F\x98\x80", "\xC0\x80"})
+        EXPECT_FALSE(encodeWindows1250(text)) << text;
+    EXPECT_EQ(encodeWindows1250OrQuestionMarks("α-pinen\xFF"), "?-pinen?");
+}
+
+TEST(Text, folds) {
+    EXPECT_EQ(upperCase("příliš žluťoučký kůň ß ÷ ŕ ľ ő ű ż"), "PŘÍLIŠ ŽLUŤOUČKÝ KŮŇ ß ÷ Ŕ Ľ Ő Ű Ż");
+    EXPECT_TRUE(equalIgnoringCase("Velor.drc", "VELOR.DRC"));
+    EXPECT_FALSE(equalIgnoringCase("VELOR.DRC", "VELOR.DRCX"));
+    EXPECT_EQ(trimBlanks("  a b  "), "a b");
+    EXPECT_EQ(trimBlanks("   "), "");
+    EXPECT_EQ(trimBlanks("\ta"), "\ta");
+}
+
+struct PatternCase {
+    const char* text;
+    const char* pattern;
+    bool matches;
+};
+
+TEST(Text, matchesPatterns) {
+    const PatternCase cases[] = {
+        {"VELOR.DRC", "*", true},
+        {"", "*", true},
+        {"", "", true},
+        {"a", "", false},
+        {"VELOR.DRC", "*.DRC", true},
+        {"VELOR.DR", "*.DRC", false},
+        {"aXbXc", "a*X?", true},
+        {"aab", "*ab", true},
+        {"abcabd", "a*abd", true},
+        {"ř", "?", true},
+        {"řř", "?", false},
+        {"a*b", "a*b", true},
+        {"mississippi", "*is*ip*", true},
+        {"ab", "a?c", false},
+        {"abc", "abc*?", false},
+        {"abcd", "*?d", true},
+    };
+    for (const PatternCase& c : cases)
+        EXPECT_EQ(matchesPattern(c.text, c.pattern), c.matches) << c.text << ' ' << c.pattern;
+    // Many stars over a long text must not take exponential time.
+    EXPECT_FALSE(matchesPattern(std::string(2000, 'a'), "*a*a*a*a*a*a*a*a*a*a*b"));
+}
+
+}  // namespace
+}  // namespace velor

@@ -1,0 +1,90 @@
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "support/sample_mixture.h"
+
+namespace velor {
+namespace {
+
+using test::errorNumber;
+using test::SampleMixture;
+using test::sampleSubstance;
+
+TEST(Creation, setsTheDefaultsAndOpensNothing) {
+    RecordingUserInterface boxes;
+    const Smes smes(boxes);
+    EXPECT_EQ(smes.DataFileName(), "VELOR.DRC");
+    EXPECT_EQ(smes.CFGName(), "VELOR.CFG");
+    // Linked statically here, so the library's folder is the program's.
+    EXPECT_EQ(smes.CFGPath(), std::filesystem::read_symlink("/proc/self/exe").parent_path().string() + "/");
+    EXPECT_EQ(smes.ChyboveHlasky(), 0);
+    EXPECT_EQ(smes.PocHlasek(), 0);
+    EXPECT_EQ(smes.MaxErrHlas(), 20);
+    EXPECT_EQ(smes.Redlich(), 0);
+    EXPECT_EQ(smes.MezeTeplot(), 0);
+    EXPECT_EQ(smes.SNazev(), "");
+    EXPECT_TRUE(boxes.messages.empty());
+}
+
+TEST(Settings, ignoreWhatTheyShould) {
+    RecordingUserInterface boxes;
+    Smes smes(boxes);
+    smes.DataFileName("");
+    EXPECT_EQ(smes.DataFileName(), "VELOR.DRC");
+    smes.CFGName("");
+    EXPECT_EQ(smes.CFGName(), "");
+    smes.CFGPath("  /tmp/velor ");
+    EXPECT_EQ(smes.CFGPath(), "/tmp/velor/");
+    smes.CFGPath("");
+    EXPECT_EQ(smes.CFGPath(), "/tmp/velor/");
+    smes.CFGPath("/tmp/velor/");
+    EXPECT_EQ(smes.CFGPath(), "/tmp/velor/");
+    for (const int mode : {-1, 0, 1, 2}) {
+        smes.ChyboveHlasky(mode);
+        EXPECT_EQ(smes.ChyboveHlasky(), mode);
+    }
+    for (const int mode : {-2, 3, 32767}) smes.ChyboveHlasky(mode);
+    EXPECT_EQ(smes.ChyboveHlasky(), 2);
+    smes.MaxErrHlas(0);
+    smes.MaxErrHlas(-1);
+    EXPECT_EQ(smes.MaxErrHlas(), 0);
+    for (const int tooLarge : {32768, -32769}) {
+        EXPECT_EQ(errorNumber([&] { smes.ChyboveHlasky(tooLarge); }), 6);
+        EXPECT_EQ(errorNumber([&] { smes.MaxErrHlas(tooLarge); }), 6);
+        EXPECT_EQ(errorNumber([&] { smes.Redlich(tooLarge); }), 6);
+    }
+}
+
+TEST(CorrelationItems, areReadAndWritten) {
+    TLatka record = sampleSubstance(1, "Voda");
+    record.Korelace[10] = {{1, 2, 3, 4, 5, 6}, 7, 8, 9, 10};
+    SampleMixture mixture({record});
+    Smes& smes = mixture.smes;
+    EXPECT_EQ(smes.VLRConst(1, 1, 1), -9999.0F);  // nothing defined yet
+    smes.DefSlozky(List({1}));
+    for (int j = 1; j <= 10; ++j) EXPECT_EQ(smes.VLRConst(1, 11, j), static_cast<float>(j));
+    for (const int j : {0, 11, -1}) EXPECT_EQ(smes.VLRConst(1, 1, j), 0.0F);
+    for (const auto& [i, k] : {std::pair{0, 1}, {2, 1}, {1, 0}, {1, 12}}) {
+        EXPECT_EQ(smes.VLRConst(i, k, 1), -9999.0F);
+        mixture.boxes.messages.clear();
+        smes.VLRConst(i, k, 1, 5);
+        EXPECT_EQ(mixture.boxes.messages,
+                  (std::vector<Message>{{"VLRConst( ) - chybné zadání!", Icon::Exclamation, "VELOR"}}));
+    }
+    for (int j = 1; j <= 10; ++j) smes.VLRConst(1, 11, j, 2.5 + j);
+    for (int j = 1; j <= 6; ++j) EXPECT_EQ(smes.VLRConst(1, 11, j), 2.5F + static_cast<float>(j));
+    const float rounded[] = {10, 10, 12, 12};  // halves to even
+    for (int j = 7; j <= 10; ++j) EXPECT_EQ(smes.VLRConst(1, 11, j), rounded[j - 7]);
+    smes.VLRConst(1, 11, 11, 1);
+    EXPECT_EQ(errorNumber([&] { smes.VLRConst(1, 11, 7, 40000); }), 6);
+    EXPECT_EQ(errorNumber([&] { smes.VLRConst(1, 11, 1, 1e300); }), 6);
+    EXPECT_EQ(errorNumber([&] { smes.VLRConst(1, 11, 1, "x"); }), 13);
+    EXPECT_EQ(smes.VLRConst(1, 11, 7), 10.0F);
+    // A definition counts as not loaded, so the next load takes the writing back, as built.
+    smes.Inivlr();
+    EXPECT_EQ(smes.VLRConst(1, 11, 7), 7.0F);
+}
+
+}  // namespace
+}  // namespace velor
