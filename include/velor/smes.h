@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "velor/flash_record.h"
 #include "velor/run_time_error.h"
 #include "velor/user_interface.h"
 #include "velor/variant.h"
@@ -109,6 +110,23 @@ class Smes {
     // Puts substance n into slot i (1..20); the count of components stays.
     void ZapisNslozky(int i, int n);
 
+    // Empties all 20 slots and switches messages on.
+    void ResetujSmes();
+
+    // Number of defined components. Writing a smaller number cuts the mixture down to its first components; any other
+    // is ignored. Error 9: a negative number, which is kept all the same.
+    Variant Nsloz() const;
+    void Nsloz(const Variant& count);
+
+    // Substance number loaded into slot i (1..20, else error 9); 0 when it was missing from the database.
+    Variant Nslozky(int i) const;
+
+    // Constant k (1..17 in the record's order: Mv, Tkr, Pkr, Vkr, Acent, Gyr, Nlomu, TNlomu, Dipol, TDipol, Permit,
+    // TPermit, Htani, Ttani, Tnbv and two spare ones) of component i; -9999 for i or k out of range. Writing changes
+    // the loaded record only, until the next load; out of range it shows "Bod( ) - chybné zadání!".
+    float Bod(int i, int k) const;
+    void Bod(int i, int k, const Variant& value);
+
     // Loads the records of the defined components unless they are loaded. Returns the number of components, 0 when a
     // substance is missing from the database. Errors: those of opening the database file (53, 70, 75, 76).
     Variant Inivlr();
@@ -180,6 +198,175 @@ class Smes {
 
     // A number for display, centred in about 12 characters; -9999 reads " neobsazeno ".
     static std::string GFormat(const Variant& x);
+
+    // ---- Composition ---------------------------------------------------------------------------------------------
+    // Fractions are an array with the indices 1..count; a shorter one raises 9, an element that is no number 13.
+
+    // Divides the fractions by their sum unless it is 1 within 1e-05. Error 11: all fractions are 0.
+    void Normal(Variant& X) const;
+
+    // An empty text when the fractions sum to 1 within 1e-05, or to exactly 0; otherwise "ERR sl." and a message.
+    Variant KsumX(const Variant& X);
+
+    // Mole to mass fractions and back. The result goes into the elements 1..count of the second array and is kept in
+    // Zlomky. Returns the number of components, or "Chyba" when there are none. Comol raises 11 for a component
+    // without a molar mass.
+    Variant Cohmo(const Variant& X, Variant& W);
+    Variant Comol(const Variant& W, Variant& X);
+
+    // Fraction i (1..20, else error 9) of the last conversion, and of the last call of a mixture method; Empty at
+    // first.
+    Variant Zlomky(int i) const;
+    Variant Slozeni(int i) const;
+
+    // Molar mass of the mixture, kg/mol; Empty after a trapped error.
+    Variant VSM(const Variant& X);
+
+    // Reserved for the number of mixtures: always Empty.
+    Variant PocetSmesi(const Variant& mixture) const;
+
+    // ---- Liquid mixture ------------------------------------------------------------------------------------------
+    // At T kelvin and mole fractions X, which are used as passed and kept in Slozeni. "(trap)" marks the methods that
+    // trap run-time errors: they report them and return Empty; the others raise them. The rules' accuracy for mixtures
+    // is that of their kind, some per cent; pure components give their correlation's value.
+
+    // Density, kg/m3 (trap): ideal mixing of molar volumes at the mixture's reduced temperature.
+    Variant ROLW(const Variant& T, const Variant& X);
+    // Viscosity, Pa s (trap): logarithmic rule on molar kinematic viscosities.
+    Variant ETAL(const Variant& T, const Variant& X);
+    // Thermal conductivity, W/(m K) (trap): reciprocal-square rule on mass fractions.
+    Variant ALAL(const Variant& T, const Variant& X);
+    // Heat capacity, J/(mol K) and J/(kg K).
+    Variant CPL(const Variant& T, const Variant& X);
+    Variant CPLW(const Variant& T, const Variant& X);
+    // Heat of vaporisation of the components below their critical temperatures, J/mol and J/kg.
+    Variant DHV(const Variant& T, const Variant& X);
+    Variant DHVW(const Variant& T, const Variant& X);
+    // Enthalpy relative to each component's liquid at its normal boiling point, J/mol and J/kg. A component whose heat
+    // capacity is no polynomial (types 1..5) contributes nothing.
+    Variant HL(const Variant& T, const Variant& X);
+    Variant HLW(const Variant& T, const Variant& X);
+    // Entropy relative to the same states, without the entropy of mixing, J/(mol K) (trap) and J/(kg K).
+    Variant SL(const Variant& T, const Variant& X);
+    Variant SLW(const Variant& T, const Variant& X);
+    // Surface tension, N/m (trap): fourth-root rule.
+    Variant SIGMA(const Variant& T, const Variant& X);
+    // Vapour pressure of the ideal solution (Raoult's law), Pa (trap).
+    Variant TENS(const Variant& T, const Variant& X);
+    // Prandtl number; Reynolds number with a velocity and a length, in either order. Error 11: a conductivity or a
+    // viscosity that could not be computed.
+    Variant PrL(const Variant& T, const Variant& X);
+    Variant ReL(const Variant& T, const Variant& X, const Variant& a, const Variant& b);
+    // Volumetric thermal expansion, 1/K, as a backward difference of 3 K: it belongs to T - 1.5 K. Error 11: no
+    // density.
+    Variant ObjRozL(const Variant& T, const Variant& x);
+
+    // ---- Pseudocritical values -----------------------------------------------------------------------------------
+
+    // Linear mixing of the critical constants (Kay, 1936) with p = Z R T / V. Sel chooses what is returned: "T" K,
+    // "P" Pa, "V" m3/mol, "Z", "M" kg/mol, in either case; any other text computes and returns "PSEUD?". Fractions
+    // that are off 1 by more than 0.002 give a message and are normalised (sum above 0.25) or refused ("PSEUD?");
+    // while messages are not due they are used as passed. Error 11: no components, or one without critical values.
+    Variant PSEUD(const Variant& X, const std::string& Sel);
+    // Computes them and shows them in a message box.
+    void PseudShow(const Variant& X);
+
+    // The last PSEUD's results; 0 where it gave up.
+    Variant TKRITsm() const;
+    Variant PKRITsm() const;
+    Variant VKRITsm() const;
+    Variant ZKRITsm() const;
+    Variant MSm() const;
+
+    // ---- Gas mixture at low pressure -----------------------------------------------------------------------------
+
+    // Viscosity, Pa s (trap): Herning and Zipperer (1936).
+    Variant ETAG(const Variant& T, const Variant& X);
+    // Thermal conductivity, W/(m K) (trap): Wassiljewa (1904) with the factor of Mason and Saxena (1958).
+    Variant ALAG(const Variant& T, const Variant& X);
+    // Heat capacity of the ideal gas, J/(mol K) and J/(kg K).
+    Variant CPG(const Variant& T, const Variant& X);
+    Variant CPGW(const Variant& T, const Variant& X);
+    // Density of the ideal gas at P pascals, kg/m3 (trap).
+    Variant ROGW(const Variant& T, const Variant& P, const Variant& X);
+
+    // ---- Real gas ------------------------------------------------------------------------------------------------
+    // At T kelvin, P pascals and mole fractions X. A state that cannot be solved (T or P not positive, a component
+    // without critical values) is reported by TEVRP and the methods return Empty.
+
+    // Solves the state: Redlich and Kwong (1949), or Soave (1972) where Redlich is not 0, for the mixture as one fluid.
+    // Mode 1 fills the eight RG members, any other mode RGHustota and RGLnFug only. Returns the compressibility factor.
+    // H, S and U are zero for each pure component's liquid at its normal boiling point and 101 325 Pa, as in HL and SL;
+    // the entropy holds the mixing term. A component without a boiling point gets the message "Chybí údaj Tnbv ..."
+    // and leaves H, S and U empty.
+    Variant TEVRP(int mode, const Variant& T, const Variant& P, const Variant& X);
+
+    Variant RROGW(const Variant& T, const Variant& P, const Variant& X);   // density, kg/m3 (trap)
+    Variant RHG(const Variant& T, const Variant& P, const Variant& X);     // enthalpy, J/mol
+    Variant RHGW(const Variant& T, const Variant& P, const Variant& X);    // J/kg
+    Variant RSG(const Variant& T, const Variant& P, const Variant& X);     // entropy, J/(mol K)
+    Variant RSGW(const Variant& T, const Variant& P, const Variant& X);    // J/(kg K)
+    Variant RUG(const Variant& T, const Variant& P, const Variant& X);     // internal energy, J/mol
+    Variant RUGW(const Variant& T, const Variant& P, const Variant& X);    // J/kg
+    Variant RCPG(const Variant& T, const Variant& P, const Variant& X);    // heat capacity Cp, J/(mol K)
+    Variant RCPGW(const Variant& T, const Variant& P, const Variant& X);   // J/(kg K)
+    Variant RCVG(const Variant& T, const Variant& P, const Variant& X);    // heat capacity Cv, J/(mol K)
+    Variant RCVGW(const Variant& T, const Variant& P, const Variant& X);   // J/(kg K)
+    Variant LnFug(const Variant& T, const Variant& P, const Variant& X);   // logarithm of the fugacity coefficient
+    Variant Kapa(const Variant& T, const Variant& P, const Variant& X);    // Cp/Cv
+    Variant JTkoef(const Variant& T, const Variant& P, const Variant& X);  // Joule-Thomson coefficient, K/Pa
+
+    // The last state solved; Empty where it failed.
+    Variant RGHustota() const;         // mol/cm3
+    Variant RGVnitrniEnergie() const;  // J/mol
+    Variant RGEntalpie() const;        // J/mol
+    Variant RGEntropie() const;        // J/(mol K)
+    Variant RGLnFug() const;           // -
+    Variant RGCv() const;              // J/(mol K)
+    Variant RGCp() const;              // J/(mol K)
+    Variant RGJouleThomson() const;    // K/Pa
+
+    // Viscosity under pressure, Pa s (trap): ETAG and the excess of Dean and Stiel (1965).
+    Variant RETAG(const Variant& T, const Variant& P, const Variant& X);
+    // Thermal conductivity under pressure, W/(m K) (trap): ALAG and the excess of Stiel and Thodos (1964) with
+    // constants of our own, about 4.6 times the published excess, by design.
+    Variant RALAG(const Variant& T, const Variant& P, const Variant& X);
+
+    // Prandtl number of the real gas; Reynolds number with a velocity and a length, in either order. Empty where a
+    // state could not be solved.
+    Variant PrG(const Variant& T, const Variant& P, const Variant& X);
+    Variant ReG(const Variant& T, const Variant& P, const Variant& X, const Variant& a, const Variant& b);
+
+    // ---- Phase equilibrium ---------------------------------------------------------------------------------------
+
+    // Bubble and dew point of the ideal mixture (Raoult's law) at P pascals, K, by Newton's method to 0.02 K. After
+    // more than 50 steps a message tells the divergence, and TBV returns 0, TRB its last estimate. While messages are
+    // off (mode 2) or the budget is spent there is no limit: such a call may not return. Run-time errors are trapped
+    // (Empty).
+    Variant TBV(const Variant& P, const Variant& X);
+    Variant TRB(const Variant& P, const Variant& Y);
+
+    // Single-stage flash of the feed Z (mole fractions, normalised here; error 11 when they sum to 0) at P pascals with
+    // ideal K-values. Mode 0: isothermal at T kelvin. Mode 1: adiabatic, the feed a liquid at T, which receives the
+    // final temperature. A negative mode asks the user for everything. Any other mode counts as isothermal. Returns a
+    // Czech report: lines ended by CR LF, columns separated by TAB; after 30 passes without convergence only its
+    // heading. The report's first pressure is the vapour pressure that the last iterated flash kept. Errors reach the
+    // caller: 11 a singular step, 9 more than 20 fractions, 13 a real-gas enthalpy that could not be computed, 62
+    // nobody answers. It calls TBV and TRB: where messages are off or spent the call may not return.
+    std::string FLASH(int mode, Variant& T, Variant& P, const Variant& Z);
+
+    // The last flash as numbers.
+    const FlashRecord& lastFlash() const;
+
+    // ---- By name -------------------------------------------------------------------------------------------------
+
+    // The property of that name, in either letter case, without blanks around it. With T alone: ROLW ETAL ETAG ALAL
+    // ALAG CPL CPLW CPG CPGW SIGMA DHV DHVW SL SLW HL HLW TENS OBJROZL PRL VSM; with P too: ROGW RROGW RCPG RCPGW RCVG
+    // RCVGW RALAG RETAG RHG RHGW RSG RSGW RUG RUGW LNFUG KAPA JTKOEF TBV TRB. -9999 when nothing was computed: an
+    // unknown name, a pressure within 1e-06 of 0, an error (a message, or in mode -1 kRaisedToHost unless the kind of
+    // an argument was wrong). A value of the first list at or below -9999, as HL of a cold liquid may be, counts as not
+    // found and ends in the unknown-name message, as built.
+    Variant Vlastnost(const std::string& Name, const Variant& X, const Variant& T, const Variant& P);
 
   private:
     std::unique_ptr<State> state_;

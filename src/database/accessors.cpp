@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "database/load.h"
 #include "runtime/checked.h"
 #include "runtime/numbers.h"
 #include "runtime/windows_1250.h"
@@ -105,6 +106,8 @@ Variant Smes::TDipolm(int i) const { return constantOf(*state_, i, &TLatka::TDip
 Variant Smes::Permiti(int i) const { return constantOf(*state_, i, &TLatka::Permit); }
 Variant Smes::TPermiti(int i) const { return constantOf(*state_, i, &TLatka::TPermit); }
 Variant Smes::Gyr(int i) const { return constantOf(*state_, i, &TLatka::Gyr); }
+
+std::string componentName(const State& state, int i) { return textOrEmpty(state, i, &TLatka::Nazev).toText(); }
 
 Variant Smes::Nazev(int i) const { return textOrEmpty(*state_, i, &TLatka::Nazev); }
 Variant Smes::Vzorec(int i) const { return textOrEmpty(*state_, i, &TLatka::Vzorec); }

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "database/load.h"
+#include "database/record_layout.h"
 #include "runtime/numbers.h"
 #include "smes/messages.h"
 #include "velor/smes.h"
@@ -88,6 +89,54 @@ void Smes::ZapisNslozky(int i, int n) {
     }
     state_->slots.setCisloLatky(i, number);
     state_->Nacteno = 0;
+}
+
+void Smes::ResetujSmes() {
+    State& state = *state_;
+    state.PocSlozek = 0;
+    state.Nacteno = 0;
+    state.ChyboveHlasky = 0;
+    for (int s = 1; s <= ComponentSlots::kCount; ++s) {
+        state.slots.setCisloLatky(s, 0);
+        TLatka& record = state.slots.change(s);
+        record.Cislo = 0;
+        record.Nazev.fill(' ');
+    }
+}
+
+Variant Smes::Nsloz() const { return state_->PocSlozek; }
+
+void Smes::Nsloz(const Variant& count) {
+    const std::int16_t n = count.toInt16();
+    if (n >= state_->PocSlozek) return;
+    state_->PocSlozek = n;
+    state_->slots.setCisloLatky(n + 1, 0);  // a negative count is kept and fails here, deliberately unguarded
+}
+
+Variant Smes::Nslozky(int i) const { return state_->slots.Latka(checkedInt16(i)).Cislo; }
+
+namespace {
+
+bool addressesConstant(const State& state, int i, int k) {
+    return checkedInt16(i) >= 1 && i <= state.PocSlozek && checkedInt16(k) >= 1 && k <= TLatka::kConstants;
+}
+
+}  // namespace
+
+float Smes::Bod(int i, int k) const {
+    if (!addressesConstant(*state_, i, k)) return -9999;
+    const float constant = state_->slots.Latka(i).*constantMember(k);
+    checked::finite(constant);
+    return constant;
+}
+
+void Smes::Bod(int i, int k, const Variant& value) {
+    const float constant = value.toSingle();
+    if (!addressesConstant(*state_, i, k)) {
+        showUnlessSilent(*state_, "Bod( ) - chybné zadání!", Icon::Exclamation);
+        return;
+    }
+    state_->slots.change(i).*constantMember(k) = constant;
 }
 
 }  // namespace velor

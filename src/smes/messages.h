@@ -19,6 +19,14 @@ inline bool engineMessageIsDue(const State& state) {
     return state.ChyboveHlasky < 1 && state.PocHlasek < state.MaxErrHlas;
 }
 
+// Whether a message of the mixture functions is due: every mode but 2, budget not spent.
+inline bool mixtureMessageIsDue(const State& state) {
+    return state.ChyboveHlasky < 2 && state.PocHlasek < state.MaxErrHlas;
+}
+
+// The mixture's caption for titles.
+inline std::string mixtureName(const State& state) { return state.SNazev.empty() ? "nepojmenovaná" : state.SNazev; }
+
 // Shows a message and counts it. The caller has made sure that it is due.
 void showCounted(State& state, std::string text, Icon icon, std::string title = "VELOR");
 

@@ -4,14 +4,17 @@
 #include <array>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "runtime/checked.h"
+#include "velor/flash_record.h"
 #include "velor/record.h"
 #include "velor/user_interface.h"
+#include "velor/variant.h"
 
 namespace velor {
 
@@ -24,8 +27,25 @@ class ComponentSlots {
     std::int16_t CisloLatky(int i) const { return slots_[index(i)].CisloLatky; }
     const TLatka& Latka(int i) const { return slots_[index(i)].Latka; }
 
-    void setCisloLatky(int i, std::int16_t number) { slots_[index(i)].CisloLatky = number; }
-    TLatka& change(int i) { return slots_[index(i)].Latka; }
+    void setCisloLatky(int i, std::int16_t number) {
+        slots_[index(i)].CisloLatky = number;
+        ++revision_;
+    }
+    // The record for writing at once; the reference is not to be kept.
+    TLatka& change(int i) {
+        ++revision_;
+        return slots_[index(i)].Latka;
+    }
+
+    // Grows with every change, so that constants prepared from the records know when they are out of date.
+    std::uint64_t revision() const { return revision_; }
+
+    // Position of component i in an array of 20; error 9 outside 1..20.
+    static std::size_t index(int i) {
+        if (i < 1 || i > kCount) [[unlikely]]
+            checked::raise(RunTimeError::kSubscript);
+        return static_cast<std::size_t>(i - 1);
+    }
 
   private:
     struct Slot {
@@ -33,14 +53,38 @@ class ComponentSlots {
         TLatka Latka;
     };
 
-    static std::size_t index(int i) {
-        if (i < 1 || i > kCount) [[unlikely]]
-            checked::raise(RunTimeError::kSubscript);
-        return static_cast<std::size_t>(i - 1);
-    }
-
     std::array<Slot, kCount> slots_{};
+    std::uint64_t revision_ = 0;
 };
+
+// Fractions kept per component; Empty until one is set.
+class KeptFractions {
+  public:
+    Variant at(int i) const {
+        const std::optional<double>& kept = fractions_[ComponentSlots::index(i)];
+        return kept ? Variant(*kept) : Variant();
+    }
+    void set(int i, double fraction) { fractions_[ComponentSlots::index(i)] = fraction; }
+
+  private:
+    std::array<std::optional<double>, ComponentSlots::kCount> fractions_{};
+};
+
+// What the last real-gas solution gave; empty where it failed.
+struct RealGasState {
+    std::optional<double> density;         // mol/cm3
+    std::optional<double> internalEnergy;  // J/mol
+    std::optional<double> enthalpy;        // J/mol
+    std::optional<double> entropy;         // J/(mol K)
+    std::optional<double> lnFug;           // -
+    std::optional<double> Cv;              // J/(mol K)
+    std::optional<double> Cp;              // J/(mol K)
+    std::optional<double> jouleThomson;    // K/Pa
+};
+
+// Constants that the rooms below prepare from the records; each room knows what is in them.
+struct PreparedGas;
+struct PreparedGasMixing;
 
 struct State {
     static constexpr std::int16_t kNacteno = 55537 - 65536;  // 55537 as a signed 16-bit number
@@ -52,6 +96,8 @@ struct State {
 
     std::int16_t PocSlozek = 0;
     ComponentSlots slots;
+    KeptFractions Slozeni;  // the last mixture call's composition
+    KeptFractions Zlomky;   // the last conversion's result
     std::int16_t Nacteno = 0;
     std::string AdresaBaze;
     std::string DataFileName = "VELOR.DRC";
@@ -63,6 +109,12 @@ struct State {
     std::int16_t PocHlasek = 0;
     std::int16_t MaxErrHlas = 20;
     std::string SNazev;
+    RealGasState realGas;
+    std::shared_ptr<PreparedGas> preparedGas;
+    std::shared_ptr<PreparedGasMixing> preparedGasMixing;
+    FlashRecord lastFlash;
+    double flashPressure = 0;  // Pa, vapour pressure kept from the last iterated flash: the next report prints it
+    Variant TKRITsm, PKRITsm, VKRITsm, ZKRITsm, MSm;     // of the last PSEUD
     std::span<const std::string_view> propertyCaptions;  // empty until inivlast
 };
 

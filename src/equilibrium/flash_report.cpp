@@ -1,0 +1,41 @@
+#include "equilibrium/flash_report.h"
+
+#include <cstddef>
+#include <initializer_list>
+
+#include "runtime/numbers.h"
+
+namespace velor {
+
+namespace {
+
+constexpr double kZeroCelsius = 273.15;
+constexpr double kKilopascal = 1000.0;
+
+// A label padded as it stands, then each value behind a TAB.
+void appendLine(std::string& report, const std::string& label, std::initializer_list<double> values,
+                const char* pattern) {
+    report += label;
+    for (const double value : values) report += '\t' + Format(value, pattern);
+    report += "\r\n";
+}
+
+}  // namespace
+
+std::string flashReport(const FlashReport& conditions, const FlashRecord& result, std::span<const std::string> names) {
+    std::string report;
+    const auto celsius = [](double T) { return T - kZeroCelsius; };
+    appendLine(report, "Poměr parní fáze k nástřiku: ", {result.vapourFraction}, "0.0000");
+    appendLine(report, "Teplota poč., koncová (°C)   : ",
+               {celsius(conditions.startTemperature), celsius(conditions.endTemperature)}, "0.0");
+    appendLine(report, "Tlak poč., koncový (kPa)     : ",
+               {conditions.startPressure / kKilopascal, conditions.endPressure / kKilopascal}, "0.000");
+    appendLine(report, "Bod varu(°C), rosný bod(°C)  : ", {celsius(result.bubblePoint), celsius(result.dewPoint)},
+               "0.0");
+    report += "Složka\t\t\t\t\t\t\tPára\tKapalina\tNástřik\r\n";
+    for (std::size_t i = 0; i < names.size(); ++i)
+        appendLine(report, names[i], {result.vapour[i], result.liquid[i], result.feed[i]}, "0.0000");
+    return report + "\r\n";
+}
+
+}  // namespace velor

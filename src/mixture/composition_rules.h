@@ -1,0 +1,19 @@
+// Arithmetic of fractions. All arrays have the same length, one element a component.
+#pragma once
+
+#include <span>
+
+namespace velor {
+
+// The allowed deviation of a sum from 1, and the denominator below which a conversion takes 1 instead.
+inline constexpr double kFractionTolerance = 1e-05;
+
+double sumOf(std::span<const double> x);
+
+// Mass fractions of mole fractions: x M / sum(x M). All zero stays all zero.
+void massFractions(std::span<const double> x, std::span<const double> M, std::span<double> w);
+
+// Mole fractions of mass fractions: (w / M) / sum(w / M). Error 11: a molar mass of 0.
+void moleFractions(std::span<const double> w, std::span<const double> M, std::span<double> x);
+
+}  // namespace velor
