@@ -1,0 +1,143 @@
+#include "baze/correlations_table.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstdint>
+#include <map>
+#include <optional>
+#include <utility>
+
+#include "baze/csv_table.h"
+#include "baze/row_reader.h"
+#include "baze/values.h"
+#include "correlations/equations.h"
+#include "correlations/pure_value.h"
+
+namespace velor::baze {
+
+namespace {
+
+constexpr std::string_view kNumber = "Cislo";
+constexpr std::string_view kProperty = "vlastnost";
+constexpr std::array<std::string_view, 6> kCoefficientNames{"A1", "A2", "A3", "A4", "A5", "A6"};
+
+constexpr std::array<Column, 14> kColumns{{
+    {kNumber},
+    {kProperty},
+    {"Typ"},
+    {"A1"},
+    {"A2"},
+    {"A3"},
+    {"A4"},
+    {"A5"},
+    {"A6"},
+    {"Tmin"},
+    {"Tmax"},
+    {"Priznak", Presence::WhenNeeded},
+    {"zdroj"},
+    {"odchylka"},
+}};
+
+constexpr std::int16_t kGiven = 1;  // the usual Priznak of a block that is given
+
+// Coefficients A1, A2 ... that the equation types 1, 2 ... use, as bits from the lowest up.
+constexpr std::array<unsigned, kEquationTypes> kUsedCoefficients{
+    0b000011, 0b000111, 0b001111, 0b011111, 0b111111,            // polynomials
+    0b000111, 0b000111, 0b001111, 0b111111, 0b011111, 0b001111,  // 6 to 11
+    0b000011, 0b111111, 0b000011, 0b001111, 0b101111,            // 12 to 16; A5 of type 16 is not used
+    0b000111, 0b011111, 0b001111,
+};
+
+bool isUsed(int type, std::size_t coefficient) {
+    return isEquationType(type) && (kUsedCoefficients[static_cast<std::size_t>(type - 1)] >> coefficient & 1U) != 0;
+}
+
+std::optional<int> readProperty(RowReader& row) {
+    for (int k = 1; k <= TLatka::kCorrelations; ++k)
+        if (propertyName(k) == row.cell(kProperty)) return k;
+    row.fault(kProperty, quoted(row.cell(kProperty)) + " není vlastnost (ETAG, CPG … SIGMA, Rezerva)");
+    return std::nullopt;
+}
+
+void readType(RowReader& row, TKorelace& block) {
+    const auto type = row.integer("Typ");
+    block.Typ = type.value_or(block.Typ);
+    if (type && !isEquationType(*type)) row.doubt("Typ", "typ rovnice má být 1 až 19, ne " + std::to_string(*type));
+}
+
+void readCoefficients(RowReader& row, TKorelace& block) {
+    for (std::size_t j = 0; j < block.A.size(); ++j) {
+        const std::string_view name = kCoefficientNames[j];
+        block.A[j] = row.single(name, 0.0F).value_or(0.0F);
+        if (row.cell(name).empty() && isUsed(block.Typ, j))
+            row.doubt(name, "rovnice typu " + std::to_string(block.Typ) + " tento koeficient používá");
+    }
+}
+
+void readRange(RowReader& row, TKorelace& block) {
+    const auto least = row.integer("Tmin");
+    const auto most = row.integer("Tmax");
+    block.Tmin = least.value_or(block.Tmin);
+    block.Tmax = most.value_or(block.Tmax);
+    if (least && *least < 1) row.doubt("Tmin", "teplota má být kladná");
+    if (least && most && *least >= *most) row.doubt("Tmax", "má být větší než Tmin");
+}
+
+void readFlag(RowReader& row, TKorelace& block) {
+    block.Priznak = row.integer("Priznak", kGiven).value_or(kGiven);
+    if (block.Priznak != kGiven) row.doubt("Priznak", "u dané korelace má být 1");
+}
+
+TKorelace readBlock(RowReader& row) {
+    TKorelace block;
+    readType(row, block);
+    readCoefficients(row, block);
+    readRange(row, block);
+    readFlag(row, block);
+    return block;
+}
+
+std::string coefficientCell(const TKorelace& block, std::size_t j) {
+    const bool zero = std::bit_cast<std::uint32_t>(block.A[j]) == 0;
+    return zero && !isUsed(block.Typ, j) ? std::string() : singleText(block.A[j]);
+}
+
+}  // namespace
+
+std::vector<CorrelationRow> readCorrelations(std::string_view text, Checks checks, LineFaults& faults) {
+    std::vector<CorrelationRow> rows;
+    const auto table = CsvTable::read(text, kColumns, faults);
+    if (!table) return rows;
+    std::map<std::pair<int, int>, int> lineOfKey;
+    for (const CsvRow& cells : table->rows()) {
+        RowReader row(*table, cells, checks, faults);
+        const auto number = row.recordNumber(kNumber);
+        const auto property = readProperty(row);
+        const TKorelace block = readBlock(row);
+        if (!number || !property) continue;
+        const auto [earlier, isNew] = lineOfKey.emplace(std::pair(*number, *property), row.line());
+        if (isNew) {
+            rows.push_back({row.line(), *number, *property, block});
+        } else {
+            row.fault(kProperty, std::string(propertyName(*property)) + " látky " + std::to_string(*number) +
+                                     " už je na řádku " + std::to_string(earlier->second));
+        }
+    }
+    return rows;
+}
+
+std::vector<std::string> correlationCells(int number, int property, const TKorelace& block) {
+    std::vector<std::string> cells{std::to_string(number), std::string(propertyName(property)),
+                                   std::to_string(block.Typ)};
+    for (std::size_t j = 0; j < block.A.size(); ++j) cells.push_back(coefficientCell(block, j));
+    cells.push_back(std::to_string(block.Tmin));
+    cells.push_back(std::to_string(block.Tmax));
+    cells.push_back(block.Priznak == kGiven ? "" : std::to_string(block.Priznak));
+    cells.insert(cells.end(), 2, "");  // source and deviation are not in the database
+    return cells;
+}
+
+std::string writeCorrelations(const std::vector<std::vector<std::string>>& rows) { return writeTable(kColumns, rows); }
+
+}  // namespace velor::baze
