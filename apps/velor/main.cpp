@@ -1,0 +1,64 @@
+// The velor command: arguments -> request -> report -> text.
+#include <cerrno>
+#include <csignal>
+#include <exception>
+#include <iostream>
+#include <string>
+
+#include "arguments.h"
+#include "commands.h"
+#include "failure.h"
+#include "run_time_error_text.h"
+
+namespace velor::app {
+
+namespace {
+
+std::string answerText(const Request& request) {
+    StreamUserInterface userInterface(std::cin, std::cerr);
+    const Database database = openDatabase(request.database, userInterface);
+    const auto report =
+        std::visit([&](const auto& question) { return answer(question, database, userInterface); }, request.question);
+    return print(report, request.form);
+}
+
+std::string run(int argc, const char* const* argv) {
+    const auto parsed = parseArguments(argc, argv);
+    if (const auto* ready = std::get_if<ReadyAnswer>(&parsed)) return *ready;
+    return answerText(std::get<Request>(parsed));
+}
+
+// A reader that went away has read enough: no text, only the exit code.
+void write(const std::string& text) {
+    errno = 0;
+    std::cout << text << std::flush;
+    if (!std::cout && errno == EPIPE) throw Failure(ExitCode::NothingComputed, "");
+    if (!std::cout) throw Failure(ExitCode::NothingComputed, "Výsledek se nepodařilo zapsat na výstup.");
+}
+
+int finish(ExitCode code, const std::string& text) {
+    if (!text.empty()) std::cerr << "velor: " << text << std::endl;
+    return static_cast<int>(code);
+}
+
+}  // namespace
+
+}  // namespace velor::app
+
+int main(int argc, char** argv) {
+    using velor::app::ExitCode;
+#ifdef SIGPIPE
+    // A reader that went away is an output that cannot be written, not a reason to be killed.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+    try {
+        velor::app::write(velor::app::run(argc, argv));
+        return static_cast<int>(ExitCode::Done);
+    } catch (const velor::app::Failure& failure) {
+        return velor::app::finish(failure.code(), failure.what());
+    } catch (const velor::RunTimeError& error) {
+        return velor::app::finish(ExitCode::NothingComputed, "Výpočet selhal: " + velor::app::describe(error) + ".");
+    } catch (const std::exception& error) {
+        return velor::app::finish(ExitCode::NothingComputed, std::string("Neočekávaná chyba: ") + error.what());
+    }
+}

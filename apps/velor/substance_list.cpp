@@ -1,0 +1,59 @@
+#include "substance_list.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+
+#include "database/record_file.h"
+#include "runtime/text.h"
+#include "runtime/windows_1250.h"
+
+namespace velor::app {
+
+namespace {
+
+// A database from elsewhere may hold anything; control characters would reach the terminal.
+template <std::size_t Width>
+std::string fieldText(const std::array<char, Width>& field) {
+    const std::string text = decodeWindows1250(beforeNull({field.data(), field.size()}));
+    std::string printable;
+    for (std::string_view rest = text; !rest.empty();) {
+        const char32_t c = takeCodePoint(rest);
+        const bool isControl = c < 0x20 || (c >= 0x7F && c < 0xA0);
+        appendCodePoint(printable, isControl ? U'?' : c);
+    }
+    return std::string(trimBlanks(printable));
+}
+
+// As the library sees it when it loads a component.
+bool isUnused(const TLatka& record) {
+    return (record.Nazev[0] == ' ' && record.Nazev[1] == ' ') || record.Nazev[0] == '\0';
+}
+
+std::string casText(std::int32_t number) {
+    if (number < 1000) return {};  // no registry number is that short
+    std::string digits = std::to_string(number);
+    digits.insert(digits.size() - 1, "-");
+    return digits.insert(digits.size() - 4, "-");
+}
+
+}  // namespace
+
+SubstanceList readSubstances(const std::string& databasePath) {
+    const RecordFile file(databasePath);
+    const int count = std::min<int>(file.count(), std::numeric_limits<std::int16_t>::max());
+    SubstanceList substances;
+    bool isDatabase = false;  // a file of another kind does not hold a record that knows its own number
+    for (int number = 1; number <= count; ++number) {
+        const TLatka record = file.read(number);
+        if (isUnused(record)) continue;
+        isDatabase = isDatabase || record.Cislo == number;
+        substances.push_back({number, fieldText(record.Nazev), fieldText(record.Synonym), fieldText(record.Vzorec),
+                              casText(record.CAS)});
+    }
+    return isDatabase ? substances : SubstanceList{};
+}
+
+}  // namespace velor::app

@@ -1,0 +1,85 @@
+// Runs the real velor command, on a database of the tests' own or on the one it finds itself.
+#pragma once
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "support/temporary_folder.h"
+
+namespace velor::test {
+
+struct Outcome {
+    int exitCode = -1;  // -1 where a signal ended it
+    std::string out;
+    std::string error;
+
+    nlohmann::json json() const { return nlohmann::json::parse(out); }
+};
+
+using Words = std::vector<std::string>;
+
+inline const std::string kVelor = std::string(VELOR_PROGRAMS) + "/velor";
+
+class FileActions {
+  public:
+    FileActions() { posix_spawn_file_actions_init(&actions_); }
+    ~FileActions() { posix_spawn_file_actions_destroy(&actions_); }
+    FileActions(const FileActions&) = delete;
+    FileActions& operator=(const FileActions&) = delete;
+
+    void open(int descriptor, const std::string& path, int flags) {
+        posix_spawn_file_actions_addopen(&actions_, descriptor, path.c_str(), flags, 0600);
+    }
+    void duplicate(int from, int to) { posix_spawn_file_actions_adddup2(&actions_, from, to); }
+    const posix_spawn_file_actions_t* get() const { return &actions_; }
+
+  private:
+    posix_spawn_file_actions_t actions_{};
+};
+
+// The exit code of a program run with the given streams; -1 where a signal ended it.
+inline int exitCodeOf(const std::string& program, Words words, const FileActions& streams) {
+    words.insert(words.begin(), program);
+    std::vector<char*> arguments;
+    for (std::string& word : words) arguments.push_back(word.data());
+    arguments.push_back(nullptr);
+    pid_t process = 0;
+    EXPECT_EQ(posix_spawn(&process, program.c_str(), streams.get(), nullptr, arguments.data(), environ), 0) << program;
+    int status = 0;
+    EXPECT_EQ(waitpid(process, &status, 0), process);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+inline Outcome run(const Words& words, const std::string& program = kVelor, const std::string& input = "") {
+    const TemporaryFolder folder;
+    constexpr int kWrite = O_WRONLY | O_CREAT | O_TRUNC;
+    FileActions streams;
+    streams.open(STDIN_FILENO, folder.write("in", input), O_RDONLY);
+    streams.open(STDOUT_FILENO, folder / "out", kWrite);
+    streams.open(STDERR_FILENO, folder / "err", kWrite);
+    Outcome outcome;
+    outcome.exitCode = exitCodeOf(program, words, streams);
+    outcome.out = readFile(folder / "out");
+    outcome.error = readFile(folder / "err");
+    return outcome;
+}
+
+inline void expectMentions(const std::string& text, const std::string& phrase) {
+    EXPECT_NE(text.find(phrase), std::string::npos) << "missing: " << phrase << "\nin: " << text;
+}
+
+// Nothing on the output, a sentence on the error stream, the exit code.
+inline void expectFailure(const Outcome& outcome, int exitCode, const std::string& phrase) {
+    EXPECT_EQ(outcome.exitCode, exitCode) << outcome.error;
+    EXPECT_EQ(outcome.out, "");
+    expectMentions(outcome.error, phrase);
+}
+
+}  // namespace velor::test
