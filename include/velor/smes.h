@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "velor/flash_record.h"
+#include "velor/forms.h"
 #include "velor/run_time_error.h"
 #include "velor/user_interface.h"
 #include "velor/variant.h"
@@ -357,6 +358,51 @@ class Smes {
 
     // The last flash as numbers.
     const FlashRecord& lastFlash() const;
+
+    // ---- Dialogs -------------------------------------------------------------------------------------------------
+
+    // Rebuilds the list of the substances in the database, sorted by name, and writes it to SEZNAM.DAT beside the
+    // database. Without a database nothing changes. Errors: 9 more than 900 substances, 5 a CAS number of two digits or
+    // a database path without the file name, file errors; where only SEZNAM.DAT fails the list is complete.
+    void AkSeznam();
+
+    // The lines of the list, counted from 1: number, name, synonym, formula, CAS. Error 9: another index.
+    std::string SeznamLatek(int i) const;
+    // Their number.
+    int PocLatek() const;
+    // The mode of the last SeznamShow, -1 when it was left out.
+    int RezimSeznamu() const;
+
+    // Shows the list: mode left out, 0 or 1 asks for the order; 2 asks for a text and shows the lines that hold it.
+    // Error 9: more than 800 lines.
+    void SeznamShow(const Variant& mode = Variant::missing());
+
+    // Sorts arr(first..last), an array of texts, by the first 17 characters.
+    void QuickSort(Variant& arr, int first, int last);
+    // A random whole number from lower to upper, from a generator of the object's own that is never seeded.
+    int RandInt(int lower, int upper);
+    // Exchanges two elements.
+    static void SWAP(Variant& arr, int a, int b);
+
+    // Lets the user choose the components; they are loaded when the choice is confirmed.
+    void ZadejSmes();
+
+    // Lets the user enter the composition. n receives the number of components, X(1..n) the mole and W(1..n) the mass
+    // fractions. mode prefills the values: |mode| = 1 equal parts, 2 W, 3 X. Back leaves the mixture without
+    // components and everything else as it was. Errors: kRaisedToHost a negative value, 9 arrays that are too short.
+    void ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant& text = Variant::missing(),
+                   const Variant& mode = Variant::missing());
+
+    // Fraction i (1..20, else error 9) of the last ZadejSloz: as entered, as mole and as mass fractions; Empty before.
+    Variant ZadaneSlozeni(int i) const;
+    Variant MolZlomky(int i) const;
+    Variant HmotZlomky(int i) const;
+
+    // Handlers of the forms' events.
+    void mSeznam_zavrit();
+    void mZadSmes_SZavrit(const F_Seznam::CislaLatek& CislaLatek);
+    void mSloz_ZavriSloz();
+    void mSloz_ZpetSloz();
 
     // ---- By name -------------------------------------------------------------------------------------------------
 

@@ -2,11 +2,16 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
 
 namespace velor {
+
+class F_Sezn;
+class F_Seznam;
+class F_Sloz;
 
 enum class Icon { None, Critical, Exclamation, Information };
 enum class Buttons { Ok, YesNo };
@@ -37,6 +42,11 @@ class UserInterface {
     virtual Answer showMessage(const Message& message) = 0;
     // Asks for a text. Raises run-time error 62 where nobody can answer.
     virtual std::string askText(const InputRequest& request) = 0;
+    // Shows a form modally: passes the user's actions on to it until its `visible` turns false. Where nobody can act it
+    // closes the form.
+    virtual void showForm(F_Sezn& form) = 0;
+    virtual void showForm(F_Seznam& form) = 0;
+    virtual void showForm(F_Sloz& form) = 0;
 
   protected:
     UserInterface() = default;
@@ -53,8 +63,13 @@ class StreamUserInterface : public UserInterface {
 
     Answer showMessage(const Message& message) override;
     std::string askText(const InputRequest& request) override;
+    void showForm(F_Sezn& form) override;
+    void showForm(F_Seznam& form) override;
+    void showForm(F_Sloz& form) override;
 
   private:
+    bool readLine(std::string& line);  // false at the end of input
+
     std::istream& answers_;
     std::ostream& messages_;
 };
@@ -67,9 +82,16 @@ class RecordingUserInterface : public UserInterface {
     std::vector<InputRequest> requests;
     std::deque<Answer> nextAnswers;
     std::deque<std::string> nextTexts;
+    // What the user does with the next form shown; where the queue is empty the form is closed.
+    std::deque<std::function<void(F_Sezn&)>> nextListActions;
+    std::deque<std::function<void(F_Seznam&)>> nextComponentActions;
+    std::deque<std::function<void(F_Sloz&)>> nextCompositionActions;
 
     Answer showMessage(const Message& message) override;
     std::string askText(const InputRequest& request) override;
+    void showForm(F_Sezn& form) override;
+    void showForm(F_Seznam& form) override;
+    void showForm(F_Sloz& form) override;
 };
 
 }  // namespace velor

@@ -47,9 +47,8 @@ class Variant {
     static Variant null() { return Variant(Storage(Null{})); }
     static Variant missing() { return Variant(Storage(Missing{})); }           // an optional argument that was left out
     static Variant date(double days) { return Variant(Storage(Date{days})); }  // days since 1899-12-30
-    static Variant array(int lowerBound, std::vector<Variant> elements) {
-        return Variant(Storage(Array{lowerBound, std::move(elements)}));
-    }
+    // Error 9: the indices, with one to spare at either end, do not fit an int.
+    static Variant array(int lowerBound, std::vector<Variant> elements);
 
     Kind kind() const noexcept { return static_cast<Kind>(value_.index()); }
     bool isEmpty() const noexcept { return kind() == Kind::Empty; }

@@ -126,7 +126,13 @@ Variant Smes::CAS(int i) const {
     const std::string digits = Str(number);  // the leading blank stays inside the bracket, as designed
     if (digits.size() < 3) checked::raise(RunTimeError::kInvalidCall);  // a negative length
     const std::size_t front = digits.size() - 3;
-    return "[" + digits.substr(0, front) + "-" + digits.substr(front, 2) + "-" + digits.back() + "]";
+    return std::string("[")
+        .append(digits, 0, front)
+        .append("-")
+        .append(digits, front, 2)
+        .append("-")
+        .append(1, digits.back())
+        .append("]");
 }
 
 void Smes::inivlast() { state_->propertyCaptions = kPropertyCaptions; }

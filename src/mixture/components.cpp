@@ -102,6 +102,7 @@ void Smes::ResetujSmes() {
         record.Cislo = 0;
         record.Nazev.fill(' ');
     }
+    createListForm(state);  // so that its list is built anew
 }
 
 Variant Smes::Nsloz() const { return state_->PocSlozek; }

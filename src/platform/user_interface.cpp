@@ -5,6 +5,7 @@
 
 #include "runtime/checked.h"
 #include "runtime/text.h"
+#include "velor/forms.h"
 
 namespace velor {
 
@@ -62,6 +63,21 @@ std::string StreamUserInterface::askText(const InputRequest& request) {
     line = withoutCarriageReturns(line);
     return line.empty() ? request.defaultAnswer : line;
 }
+
+namespace {
+
+// The actions end with the form closed, so that the modal display ends.
+template <class Form>
+void act(Form& form, std::deque<std::function<void(Form&)>>& actions) {
+    if (!actions.empty()) takeFirst(actions)(form);
+    if (form.visible) form.close();
+}
+
+}  // namespace
+
+void RecordingUserInterface::showForm(F_Sezn& form) { act(form, nextListActions); }
+void RecordingUserInterface::showForm(F_Seznam& form) { act(form, nextComponentActions); }
+void RecordingUserInterface::showForm(F_Sloz& form) { act(form, nextCompositionActions); }
 
 Answer RecordingUserInterface::showMessage(const Message& message) {
     messages.push_back(message);

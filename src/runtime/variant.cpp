@@ -16,6 +16,14 @@ std::vector<Variant> asVariants(std::span<const Element> elements) {
 
 }  // namespace
 
+Variant Variant::array(int lowerBound, std::vector<Variant> elements) {
+    // So that bounds can be computed with, upperBound() + 1 and lowerBound() - 1 included.
+    const auto behind = static_cast<std::int64_t>(elements.size()) + lowerBound;
+    if (lowerBound == std::numeric_limits<int>::min() || behind > std::numeric_limits<int>::max())
+        checked::raise(RunTimeError::kSubscript);
+    return Variant(Storage(Array{lowerBound, std::move(elements)}));
+}
+
 double Variant::convertToDouble() const {
     switch (kind()) {
         case Kind::Empty:

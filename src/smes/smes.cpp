@@ -18,6 +18,7 @@ constexpr float kNoConstant = -9999;
 
 std::unique_ptr<State> newState(UserInterface& userInterface) {
     auto state = std::make_unique<State>();
+    createForms(*state);
     state->userInterface = &userInterface;
     state->CFGPath = platform::libraryFolder();
     return state;
@@ -42,7 +43,7 @@ Smes::Smes(UserInterface& userInterface, std::vector<std::string> volumes) : sta
     for (const std::string& volume : volumes) state_->volumes.push_back(platform::withSeparator(volume));
 }
 
-Smes::~Smes() = default;
+Smes::~Smes() { releaseForms(*state_); }
 
 std::string Smes::DataFileName() const { return state_->DataFileName; }
 void Smes::DataFileName(const std::string& name) {

@@ -12,6 +12,7 @@
 
 #include "runtime/checked.h"
 #include "velor/flash_record.h"
+#include "velor/forms.h"
 #include "velor/record.h"
 #include "velor/user_interface.h"
 #include "velor/variant.h"
@@ -86,6 +87,13 @@ struct RealGasState {
 struct PreparedGas;
 struct PreparedGasMixing;
 
+struct State;
+
+// The dialogs are made where their behaviour is defined.
+void createForms(State& state);
+void createListForm(State& state);
+void releaseForms(State& state);
+
 struct State {
     static constexpr std::int16_t kNacteno = 55537 - 65536;  // 55537 as a signed 16-bit number
 
@@ -109,6 +117,17 @@ struct State {
     std::int16_t PocHlasek = 0;
     std::int16_t MaxErrHlas = 20;
     std::string SNazev;
+    std::vector<std::string> SeznamLatek;  // lines of the substance list; empty until it is built
+    std::int16_t PocLatek = 0;
+    std::int16_t RezimSeznamu = 0;
+    std::uint32_t randomState = 0x50000;  // where the classic generator begins
+    KeptFractions enteredFractions;       // of the last composition dialog: as typed,
+    KeptFractions moleFractions;          // and converted
+    KeptFractions massFractions;
+    // The dialogs, released in the order of their creation.
+    std::unique_ptr<F_Sezn> listForm;
+    std::unique_ptr<F_Seznam> componentsForm;
+    std::unique_ptr<F_Sloz> compositionForm;
     RealGasState realGas;
     std::shared_ptr<PreparedGas> preparedGas;
     std::shared_ptr<PreparedGasMixing> preparedGasMixing;

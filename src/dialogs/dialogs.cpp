@@ -1,0 +1,118 @@
+// The dialogs' lifetime, and the substance list's methods.
+#include <memory>
+#include <string>
+
+#include "dialogs/substance_list.h"
+#include "platform/system.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "smes/messages.h"
+#include "velor/forms.h"
+#include "velor/smes.h"
+
+namespace velor {
+
+namespace {
+
+constexpr int kMostShownLines = 800;  // fewer than AkSeznam takes, as built
+constexpr int kSearch = 2;
+constexpr std::size_t kMostBehindAsterisk = 99;
+
+// Of several asterisks only the first is taken out.
+std::string withoutAsterisk(const std::string& text) {
+    const std::size_t asterisk = text.find('*');
+    if (asterisk == std::string::npos) return text;
+    std::string_view rest = std::string_view(text).substr(asterisk + 1);
+    const std::string_view tail = rest;
+    for (std::size_t i = 0; i < kMostBehindAsterisk && !rest.empty(); ++i) takeCodePoint(rest);
+    return text.substr(0, asterisk) + std::string(tail.substr(0, tail.size() - rest.size()));
+}
+
+std::vector<std::string> linesInOrder(State& state) {
+    if (state.PocLatek > kMostShownLines) checked::raise(RunTimeError::kSubscript);
+    std::vector<std::string> lines = state.SeznamLatek;
+    if (state.RezimSeznamu >= kSearch) return lines;
+    const std::string answer = state.userInterface->askText(
+        {"0 - podle abecedy" + std::string(kLineBreak) + "1 - podle čísel (chvíli trvá ...)", "VELOR", "0"});
+    if (answer == "1") quickSort(state.randomState, lines, 1, state.PocLatek);
+    if (answer == "2") state.RezimSeznamu = kSearch;
+    return lines;
+}
+
+// Fills the form's list; the count of the lines found, the line that tells a failure included.
+int fillWithHits(State& state, const std::vector<std::string>& lines) {
+    const std::string answer =
+        state.userInterface->askText({"Vložte název nebo část názvu hledané látky (bez *, %):", "VELOR", ""});
+    const std::string wanted = withoutAsterisk(upperCase(answer));
+    std::vector<std::string>& items = state.listForm->L_Sezn.items;
+    for (const std::string& line : lines)
+        if (upperCase(line).find(wanted) != std::string::npos) items.push_back(line);
+    if (items.empty()) items.push_back("Látka  " + wanted + "  nenalezena!!!");
+    return static_cast<int>(items.size());
+}
+
+}  // namespace
+
+void createListForm(State& state) { state.listForm = std::make_unique<F_Sezn>(); }
+
+void createForms(State& state) {
+    createListForm(state);
+    state.componentsForm = std::make_unique<F_Seznam>();
+    state.compositionForm = std::make_unique<F_Sloz>();
+}
+
+void releaseForms(State& state) {
+    state.listForm.reset();
+    state.componentsForm.reset();
+    state.compositionForm.reset();
+}
+
+void Smes::AkSeznam() { rebuildSubstanceList(*state_); }
+
+std::string Smes::SeznamLatek(int i) const {
+    if (i < 1 || i > state_->PocLatek) checked::raise(RunTimeError::kSubscript);
+    return state_->SeznamLatek[static_cast<std::size_t>(i - 1)];
+}
+
+int Smes::PocLatek() const { return state_->PocLatek; }
+int Smes::RezimSeznamu() const { return state_->RezimSeznamu; }
+
+void Smes::SeznamShow(const Variant& mode) {
+    State& state = *state_;
+    state.RezimSeznamu = mode.isMissing() ? std::int16_t{-1} : mode.toInt16();
+    if (state.SeznamLatek.empty()) rebuildSubstanceList(state);
+    const std::vector<std::string> lines = linesInOrder(state);
+    F_Sezn& form = *state.listForm;
+    form.L_Sezn = {};
+    int counter = 1;
+    if (state.RezimSeznamu == kSearch) {
+        counter = fillWithHits(state, lines);
+    } else if (state.RezimSeznamu < kSearch) {
+        form.L_Sezn.items = lines;
+    }
+    form.Nadpis_1 = "SEZNAM LÁTEK DATABÁZE  V E L O R   " + platform::shortDate();
+    form.Nadpis_2 = "Počet zahrnutých látek  " + Format(state.PocLatek, "#0");
+    if (!form.L_Sezn.items.empty()) form.L_Sezn.selected = 0;
+    if (state.RezimSeznamu == kSearch) form.Nadpis_2 = "k zadání nalezeno " + std::to_string(counter) + " látek";
+    form.zavrit = [this] { mSeznam_zavrit(); };
+    form.visible = true;
+    state.userInterface->showForm(form);
+}
+
+void Smes::mSeznam_zavrit() { state_->listForm->visible = false; }
+
+void Smes::QuickSort(Variant& arr, int first, int last) {
+    if (checkedInt16(first) >= checkedInt16(last)) return;
+    std::vector<std::string> lines;
+    for (int i = first; i <= last; ++i) lines.push_back(arr.at(i).toText());
+    quickSort(state_->randomState, lines, 1, static_cast<int>(lines.size()));
+    for (int i = first; i <= last; ++i) arr.at(i) = lines[static_cast<std::size_t>(i - first)];
+}
+
+int Smes::RandInt(int lower, int upper) {
+    return checkedInt16(randomBetween(state_->randomState, checkedInt16(lower), checkedInt16(upper)));
+}
+
+void Smes::SWAP(Variant& arr, int a, int b) { std::swap(arr.at(a), arr.at(b)); }
+
+}  // namespace velor
