@@ -21,8 +21,8 @@ void showUnlessSilent(State& state, std::string text, Icon icon, std::string tit
 
 // Loads a new definition; afterwards it counts as not loaded, so that the next property call reads the records.
 void loadDefinition(State& state) {
-    if (loadComponents(state) == 0) {
-        showUnlessSilent(state, "Nemohu načíst z " + state.DataFileName + "!", Icon::Critical);
+    if (loadComponents(state) == 0 && state.ChyboveHlasky < 2) {
+        show(state, "Nemohu načíst z " + state.DataFileName + "!", Icon::Critical);
         return;
     }
     state.Nacteno = 0;

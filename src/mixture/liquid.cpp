@@ -53,7 +53,8 @@ double liquidViscosity(State& state, double T, const Composition& X) {
         logarithm[i] = checked::naturalLogarithm(q);  // a trace takes the q of the component before it, as built
     }
     const double mean = checked::exponential(moleMean(x.first(n), logarithm.first(n)));
-    return checked::divide(mean * ROLW(state, T, X).value_or(0.0), VSM(state, X).value_or(0.0));
+    const double density = ROLW(state, T, X).value_or(0.0);
+    return checked::divide(mean * density, VSM(state, X).value_or(0.0));
 }
 
 std::optional<double> ETAL(State& state, double T, const Composition& X) {

@@ -3,10 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <map>
 #include <string>
 
-#include "database/record_file.h"
+#include "support/real_mixture.h"
 #include "velor/smes.h"
 
 namespace velor {
@@ -15,25 +14,8 @@ namespace {
 constexpr int kETAG = 1, kCPG = 2, kALAG = 3, kROLW = 4, kETAL = 5, kALAL = 6, kCPL = 7, kDHV = 8, kTENS = 9,
               kSIGMA = 10;
 
-int numberOf(std::int32_t registryNumber) {
-    static const std::map<std::int32_t, int> numbers = [] {
-        std::map<std::int32_t, int> found;
-        const RecordFile database(VELOR_DATABASE);
-        for (int number = 1; number <= database.count(); ++number) found[database.read(number).CAS] = number;
-        return found;
-    }();
-    const auto found = numbers.find(registryNumber);
-    return found == numbers.end() ? 0 : found->second;
-}
-
-// A mixture of one substance of the real database.
-struct Pure {
-    RecordingUserInterface boxes;
-    Smes smes{boxes};
-    explicit Pure(std::int32_t registryNumber) {
-        smes.AdrVELOR(VELOR_DATABASE);
-        smes.DefSlozky(List({numberOf(registryNumber)}));
-    }
+struct Pure : test::RealMixture {
+    explicit Pure(std::int32_t registryNumber) : RealMixture({registryNumber}) {}
     double operator()(int property, double T) { return smes.FFce(T, 1, property).toDouble(); }
 };
 

@@ -102,5 +102,84 @@ TEST_F(ComponentsTest, zapisNslozkyChecksTheSlot) {
     EXPECT_EQ(errorNumber([&] { smes.ZapisNslozky(1, 40000); }), 6);
 }
 
+TEST_F(ComponentsTest, theCountIsOnlyEverLowered) {
+    struct Case {
+        Variant count;
+        int error, left, loaded;  // the count at once and after the next load
+    };
+    const Case cases[] = {
+        {3, 0, 3, 3},        {7, 0, 5, 5},     {5, 0, 5, 5},    {"2", 0, 2, 2}, {2.5, 0, 2, 2},
+        {0, 0, 0, 0},        {40000, 6, 5, 5}, {"x", 13, 5, 5}, {-1, 9, -1, 5},  // kept before its terminator fails
+        {-9999, 9, -9999, 5}};
+    for (const Case& c : cases) {
+        smes.DefSmes(5, Numbers(std::vector<double>{1, 2, 3, 4, 5}));
+        EXPECT_EQ(errorNumber([&] { smes.Nsloz(c.count); }), c.error) << c.count.toText();
+        EXPECT_EQ(smes.Nsloz().toInt16(), c.left) << c.count.toText();
+        EXPECT_EQ(count(), c.loaded) << c.count.toText();
+        smes.ResetujSmes();
+    }
+    EXPECT_TRUE(messages.empty());
+}
+
+TEST_F(ComponentsTest, nslozkyTellsWhatWasLoaded) {
+    smes.DefSlozky(List({7, 99, 3}));
+    EXPECT_EQ(messages, (std::vector{kNotInDatabase, kNotLoaded}));
+    EXPECT_EQ(smes.Nslozky(1).toInt16(), 7);
+    EXPECT_EQ(smes.Nslozky(2).toInt16(), 0);  // missing
+    EXPECT_EQ(smes.Nslozky(3).toInt16(), 0);  // not reached
+    for (const int slot : {0, 21, -9999}) EXPECT_EQ(errorNumber([&] { smes.Nslozky(slot); }), 9) << slot;
+}
+
+TEST_F(ComponentsTest, resetujSmesEmptiesEverySlot) {
+    smes.DefSlozky(List(std::vector<int>(20, 4)));
+    EXPECT_EQ(count(), 20);
+    smes.Nsloz(20);  // there is no slot behind the last one to end the list in, and no need for it
+    smes.ChyboveHlasky(2);
+    smes.ResetujSmes();
+    EXPECT_EQ(smes.ChyboveHlasky(), 0);
+    EXPECT_EQ(smes.Nsloz().toInt16(), 0);
+    for (int slot = 1; slot <= 20; ++slot) {
+        EXPECT_EQ(smes.Nslozky(slot).toInt16(), 0);
+        EXPECT_EQ(smes.Nazev(slot), Variant(""));
+    }
+    EXPECT_EQ(count(), 0);
+    smes.ZapisNslozky(1, 6);                                  // the first slot alone makes a mixture again
+    EXPECT_EQ(smes.Nazev(1), Variant(std::string(30, ' ')));  // until it is loaded
+    EXPECT_EQ(count(), 1);
+    EXPECT_TRUE(messages.empty());
+}
+
+TEST_F(ComponentsTest, bodReadsAndWritesTheLoadedConstants) {
+    const Message refused{"Bod( ) - chybné zadání!", Icon::Exclamation, "VELOR"};
+    smes.DefSlozky(List({1, 2}));
+    count();
+    for (int k = 1; k <= 17; ++k) smes.Bod(2, k, 100 + k);
+    const Variant inOrder[] = {smes.Mvi(2),     smes.Tkri(2),     smes.Pkri(2),    smes.Vkri(2),   smes.Acenti(2),
+                               smes.Gyr(2),     smes.Nlomui(2),   smes.TNlomui(2), smes.Dipolm(2), smes.TDipolm(2),
+                               smes.Permiti(2), smes.TPermiti(2), smes.Htani(2),   smes.Ttani(2),  smes.Tnbvi(2)};
+    for (int k = 1; k <= 17; ++k) {
+        EXPECT_EQ(smes.Bod(2, k), 100.0F + static_cast<float>(k));
+    }
+    for (int k = 1; k <= 15; ++k) EXPECT_EQ(inOrder[k - 1].toDouble(), 100 + k);
+    EXPECT_EQ(smes.Bod(1, 1), 0.046F);  // the other component is left alone
+    const std::pair<int, int> outside[] = {{0, 1}, {3, 1}, {-1, 1}, {1, 0}, {1, 18}};
+    for (const auto& [i, k] : outside) {
+        messages.clear();
+        EXPECT_EQ(smes.Bod(i, k), -9999.0F) << i << ' ' << k;
+        smes.Bod(i, k, 1);
+        EXPECT_EQ(messages, std::vector{refused}) << i << ' ' << k;
+    }
+    EXPECT_EQ(smes.PocHlasek(), 0);
+    messages.clear();
+    smes.ChyboveHlasky(2);
+    smes.Bod(0, 1, 1);
+    EXPECT_TRUE(messages.empty());
+    EXPECT_EQ(errorNumber([&] { smes.Bod(1, 1, "x"); }), 13);
+    EXPECT_EQ(errorNumber([&] { smes.Bod(1, 1, 1e39); }), 6);
+    smes.ZapisNslozky(1, 1);
+    count();
+    EXPECT_EQ(smes.Bod(2, 1), 0.046F);  // a reload undoes the change
+}
+
 }  // namespace
 }  // namespace velor
