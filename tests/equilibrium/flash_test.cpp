@@ -1,0 +1,370 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+#include <numeric>
+
+#include "equilibrium/flash_rules.h"
+#include "equilibrium/typed_composition.h"
+#include "support/real_mixture.h"
+#include "support/sample_mixture.h"
+
+namespace velor {
+namespace {
+
+using test::errorNumber;
+using test::RealMixture;
+using test::SampleMixture;
+using test::sampleSubstance;
+
+// Pentane to decane, cyclohexane, methylcyclohexane, benzene, toluene, ethylbenzene, o- and p-xylene, acetone,
+// butanone, methanol, ethanol, both propanols, ethyl acetate.
+const std::vector<std::int32_t> kSubstances{109660, 110543, 142825, 111659, 111842, 124185, 110827,
+                                            108872, 71432,  108883, 100414, 95476,  106423, 67641,
+                                            78933,  67561,  64175,  71238,  67630,  141786};
+
+struct Feed {
+    std::vector<std::int32_t> substances;
+    std::vector<double> z;
+};
+
+// The n substances from the given one on (cyclically), in uneven amounts.
+Feed feedOf(std::size_t n, std::size_t first) {
+    Feed feed;
+    for (std::size_t i = 0; i < n; ++i) {
+        feed.substances.push_back(kSubstances[(first + 3 * i) % kSubstances.size()]);
+        feed.z.push_back(1.0 + static_cast<double>((7 * i + first) % 5));
+    }
+    const double sum = std::accumulate(feed.z.begin(), feed.z.end(), 0.0);
+    for (double& z : feed.z) z /= sum;
+    return feed;
+}
+
+double bisect(double low, double high, const std::function<double(double)>& rising) {
+    for (int halving = 0; halving < 50; ++halving) {
+        const double middle = (low + high) / 2;
+        (rising(middle) < 0 ? low : high) = middle;
+    }
+    return (low + high) / 2;
+}
+
+// Raoult's law, solved apart from the library on the same vapour pressures.
+struct Ideal {
+    Smes& smes;
+    const std::vector<double>& z;
+    double P;
+
+    double K(std::size_t i, double T) const { return smes.FFce(T, static_cast<int>(i) + 1, 9).toDouble() / P; }
+    double lowestCritical() const {
+        double lowest = 1e9;
+        for (std::size_t i = 0; i < z.size(); ++i)
+            lowest = std::min(lowest, smes.Tkri(static_cast<int>(i) + 1).toDouble());
+        return lowest;
+    }
+    double dewPoint(double highest) const {
+        return bisect(150, highest, [&](double T) {
+            double sum = 0;
+            for (std::size_t i = 0; i < z.size(); ++i) sum += z[i] / K(i, T);
+            return 1 - sum;
+        });
+    }
+    double vapourFraction(double T) const {
+        return bisect(0, 1, [&](double V) {
+            double sum = 0;
+            for (std::size_t i = 0; i < z.size(); ++i) sum += z[i] * (1 - K(i, T)) / (1 - V * (1 - K(i, T)));
+            return sum;
+        });
+    }
+};
+
+void expectSplit(const FlashRecord& found, const std::vector<double>& z, double tolerance) {
+    double sumX = 0, sumY = 0;
+    for (std::size_t i = 0; i < z.size(); ++i) {
+        EXPECT_NEAR(found.vapourFraction * found.vapour[i] + (1 - found.vapourFraction) * found.liquid[i], z[i],
+                    tolerance);
+        if (!found.equilibrium.empty()) {
+            EXPECT_NEAR(found.vapour[i], found.equilibrium[i] * found.liquid[i], tolerance);
+        }
+        sumX += found.liquid[i];
+        sumY += found.vapour[i];
+    }
+    EXPECT_NEAR(sumX, found.outcome == FlashOutcome::AllVapour ? 0 : 1, 5e-3);
+    EXPECT_NEAR(sumY, found.outcome == FlashOutcome::AllLiquid ? 0 : 1, 5e-3);
+}
+
+TEST(IsothermalFlash, agreesWithAnIndependentSolution) {
+    int flashes = 0, clamped = 0, iterated = 0;
+    for (const std::size_t n : {2U, 3U, 5U, 10U, 20U}) {
+        for (std::size_t first = 0; first < 6; ++first) {
+            const Feed feed = feedOf(n, first);
+            for (const double P : {10e3, 101325.0, 600e3}) {
+                for (const double share : {-0.2, 0.05, 0.3, 0.6, 0.9, 1.2}) {
+                    RealMixture mixture(feed.substances);
+                    const Ideal ideal{mixture.smes, feed.z, P};
+                    const double highest = 0.95 * ideal.lowestCritical();
+                    const double Td = ideal.dewPoint(highest);
+                    const bool dewIsClamped = Td > highest - 0.1;
+                    const double Tb = mixture.smes.TBV(P, Fractions(feed.z)).toDouble();
+                    const double T = Tb + share * (Td - Tb);
+                    Variant hostT = T, hostP = P;
+                    mixture.smes.FLASH(0, hostT, hostP, Fractions(feed.z));
+                    const FlashRecord& found = mixture.smes.lastFlash();
+                    ++flashes;
+                    if (dewIsClamped) {
+                        // The method's own dew point decides there, by design.
+                        ++clamped;
+                        EXPECT_EQ(found.outcome == FlashOutcome::AllVapour, T > found.dewPoint);
+                    } else {
+                        EXPECT_NEAR(found.dewPoint, Td, 0.03);
+                        const double V = share < 0 ? 0 : share > 1 ? 1 : ideal.vapourFraction(T);
+                        EXPECT_NEAR(found.vapourFraction, V, 1e-3)
+                            << n << " from " << first << " at " << P << ", " << T;
+                        iterated += found.outcome == FlashOutcome::Converged ? 1 : 0;
+                    }
+                    if (found.outcome != FlashOutcome::NotConverged) expectSplit(found, feed.z, 1e-3);
+                    EXPECT_EQ(hostT, Variant(T));
+                }
+            }
+        }
+    }
+    EXPECT_GE(flashes, 500);
+    EXPECT_GE(iterated, 250);
+    RecordProperty("clampedPercent", 100 * clamped / flashes);
+}
+
+// The temperature and split that close both balances, by bisection within bisection.
+double adiabaticTemperature(Smes& smes, const Ideal& ideal, double T0, double Tb, double Td) {
+    const double H0 = smes.HL(T0, Fractions(ideal.z)).toDouble();
+    return bisect(Tb + 1e-6, Td - 1e-6, [&](double T) {
+        const double V = ideal.vapourFraction(T);
+        std::vector<double> x, y;
+        for (std::size_t i = 0; i < ideal.z.size(); ++i) {
+            x.push_back(ideal.z[i] / (1 - V * (1 - ideal.K(i, T))));
+            y.push_back(ideal.K(i, T) * x.back());
+        }
+        return (1 - V) * smes.HL(T, Fractions(x)).toDouble() + V * smes.RHG(T, ideal.P, Fractions(y)).toDouble() - H0;
+    });
+}
+
+TEST(AdiabaticFlash, closesTheEnthalpyBalance) {
+    int converged = 0, all = 0;
+    for (const std::size_t n : {2U, 3U, 5U, 10U}) {
+        for (std::size_t first = 0; first < 5; ++first) {
+            const Feed feed = feedOf(n, first);
+            for (const double superheat : {10.0, 25.0, 45.0}) {
+                constexpr double P = 101325;
+                RealMixture mixture(feed.substances);
+                const double Tb = mixture.smes.TBV(P, Fractions(feed.z)).toDouble();
+                const double T0 = Tb + superheat;
+                Variant T = T0, hostP = P;
+                mixture.smes.FLASH(1, T, hostP, Fractions(feed.z));
+                const FlashRecord found = mixture.smes.lastFlash();
+                ++all;
+                if (found.outcome != FlashOutcome::Converged) {
+                    EXPECT_EQ(T, Variant(T0));
+                    continue;
+                }
+                ++converged;
+                EXPECT_EQ(T, Variant(found.temperature));
+                const Ideal ideal{mixture.smes, feed.z, P};
+                const double expected =
+                    adiabaticTemperature(mixture.smes, ideal, T0, found.bubblePoint, found.dewPoint);
+                EXPECT_NEAR(found.temperature, expected, 0.15) << n << " from " << first << ' ' << superheat;
+                EXPECT_NEAR(found.vapourFraction, ideal.vapourFraction(expected), 5e-3);
+                expectSplit(found, feed.z, 5e-3);
+                // The two tolerances, 0.1 K and 0.0005 of the heat of vaporisation, leave about 50 J/mol.
+                EXPECT_LT(std::abs(found.energyResidual), 60);
+            }
+        }
+    }
+    EXPECT_GT(converged, all / 2);
+    RecordProperty("convergedPercent", 100 * converged / all);
+}
+
+TEST(FlashRules, areNewtonStepsOfTheirBalances) {
+    const std::vector<double> z{0.5, 0.3, 0.2}, K{2.5, 0.9, 0.3}, slopes{0.05, 0.02, 0.01};
+    const auto residual = [&](double V, double shift) {
+        std::vector<double> k = K, x(3), y(3);
+        for (std::size_t i = 0; i < 3; ++i) k[i] += shift * slopes[i];
+        return splitFeed(V, z, k, slopes, x, y).residual;
+    };
+    std::vector<double> x(3), y(3);
+    const MaterialBalance balance = splitFeed(0.4, z, K, slopes, x, y);
+    EXPECT_NEAR(balance.byVapour, (residual(0.4 + 1e-5, 0) - residual(0.4 - 1e-5, 0)) / 2e-5, 1e-8);
+    EXPECT_NEAR(balance.byTemperature, (residual(0.4, 1e-5) - residual(0.4, -1e-5)) / 2e-5, 1e-8);
+    const EnergyBalance energy{120, 30000, 150};
+    const FlashStep step = adiabaticStep(balance, energy);
+    EXPECT_NEAR(balance.residual + balance.byVapour * step.V + balance.byTemperature * step.T, 0, 1e-12);
+    EXPECT_NEAR(energy.residual + energy.byVapour * step.V + energy.byTemperature * step.T, 0, 1e-9);
+    EXPECT_EQ(errorNumber([] { adiabaticStep({1, 0, 0}, {1, 0, 0}); }), 11);
+    EXPECT_EQ(errorNumber([] { isothermalStep({1, 0, 0}); }), 11);
+}
+
+TEST(TypedComposition, endsAValueAtTheLaterSeparator) {
+    const std::pair<const char*, std::vector<double>> cases[] = {
+        {"0,5 0,5", {0.5, 0.5}},
+        {" 0.5;0.3;0.2 ", {0.5, 0.3, 0.2}},
+        {"0.5;0.3 0.2", {0.5, 0.2}},
+        {"0.5; 0.5", {0.5, 0.5}},
+        {"0.5  0.5", {0.5, 0, 0.5}},
+        {"a b", {0, 0}},
+        {"1;", {1}},
+        {"   ", {}},
+        {"1 2;3", {1, 3}},
+    };
+    for (const auto& [text, fractions] : cases) EXPECT_EQ(parseComposition(text), fractions) << text;
+    std::string twenty;
+    for (int i = 0; i < 20; ++i) twenty += "1 ";
+    EXPECT_EQ(parseComposition(twenty).size(), 20U);
+    EXPECT_EQ(errorNumber([&] { parseComposition(twenty + "1"); }), 9);
+}
+
+// Two substances whose vapour pressures are 1000 (T - 250.02) and 250 (T - 250.02), so that everything can be followed
+// by hand: for the equimolar feed at 50 kPa the bubble point is 330.02 K and the dew point 375.02 K.
+struct FlashReportTest : ::testing::Test {
+    static std::vector<TLatka> substances() {
+        TLatka light = sampleSubstance(2, "Lehká látka"), heavy = sampleSubstance(3, "Těžká látka");
+        light.Korelace[8] = {{-250020, 1000}, 1, 1, 200, 500};
+        heavy.Korelace[8] = {{-62505, 250}, 1, 1, 200, 500};
+        return {sampleSubstance(1, "Voda"), light, heavy};
+    }
+    SampleMixture mixture{substances()};
+    Smes& smes = mixture.smes;
+    std::vector<Message>& messages = mixture.boxes.messages;
+    const std::string lightName = "Lehká látka" + std::string(19, ' '),
+                      heavyName = "Těžká látka" + std::string(19, ' ');
+
+    FlashReportTest() { smes.DefSlozky(List({2, 3})); }
+
+    std::string flash(int mode, double T, const Variant& Z) {
+        Variant hostT = T, P = 50000;
+        return smes.FLASH(mode, hostT, P, Z);
+    }
+    static std::string head() { return "Složka\t\t\t\t\t\t\tPára\tKapalina\tNástřik\r\n"; }
+};
+
+TEST_F(FlashReportTest, isWrittenToTheByte) {
+    const Message allVapour{"Zadáno T > rosný bod : Vše odpařeno", Icon::Exclamation, "VELOR"};
+    const Message allLiquid{"Zadáno T < bod varu: Vše kapalné", Icon::Exclamation, "VELOR"};
+    EXPECT_EQ(flash(0, 400, Fractions({0.5, 0.5})),
+              "FLASH výpočet izotermní\r\nZadáno T > rosný bod : Vše odpařeno\r\n"
+              "Poměr parní fáze k nástřiku: \t1.0000\r\n"
+              "Teplota poč., koncová (°C)   : \t126.9\t126.9\r\n"
+              "Tlak poč., koncový (kPa)     : \t0.000\t50.000\r\n"
+              "Bod varu(°C), rosný bod(°C)  : \t56.9\t101.9\r\n" +
+                  head() + lightName + "\t0.5000\t0.0000\t0.5000\r\n" + heavyName + "\t0.5000\t0.0000\t0.5000\r\n\r\n");
+    EXPECT_EQ(messages, std::vector{allVapour});
+
+    // At 350.02 K, K = 2 and 0.5: V = 0.5, x = 1/3 and 2/3, y = 2/3 and 1/3; TENS = 62.5 kPa.
+    messages.clear();
+    EXPECT_EQ(flash(0, 350.02, Fractions({0.5, 0.5})),
+              "FLASH výpočet izotermní\r\n"
+              "Poměr parní fáze k nástřiku: \t0.5000\r\n"
+              "Teplota poč., koncová (°C)   : \t76.9\t76.9\r\n"
+              "Tlak poč., koncový (kPa)     : \t62.500\t50.000\r\n"
+              "Bod varu(°C), rosný bod(°C)  : \t56.9\t101.9\r\n" +
+                  head() + lightName + "\t0.6667\t0.3333\t0.5000\r\n" + heavyName + "\t0.3333\t0.6667\t0.5000\r\n\r\n");
+    EXPECT_TRUE(messages.empty());
+    EXPECT_NEAR(smes.Slozeni(1).toDouble(), 0.5, 1e-12);
+
+    // The pressure kept from the flash before is printed by a trivial one; the feed need not sum to 1.
+    EXPECT_EQ(flash(1, 300, Fractions({2, 2})),
+              "FLASH výpočet adiabatický\r\nZadáno T < bod varu: Vše kapalné\r\n"
+              "Poměr parní fáze k nástřiku: \t0.0000\r\n"
+              "Teplota poč., koncová (°C)   : \t26.9\t26.9\r\n"
+              "Tlak poč., koncový (kPa)     : \t62.500\t50.000\r\n"
+              "Bod varu(°C), rosný bod(°C)  : \t56.9\t101.9\r\n" +
+                  head() + lightName + "\t0.0000\t0.5000\t0.5000\r\n" + heavyName + "\t0.0000\t0.5000\t0.5000\r\n\r\n");
+    EXPECT_EQ(messages, (std::vector{Message{"FLASH chybně zadané složení, součet 4.00000", Icon::Information, "FLASH"},
+                                     allLiquid}));
+    EXPECT_EQ(smes.PocHlasek(), 1);  // the trivial boxes are not counted
+}
+
+TEST_F(FlashReportTest, keepsSilentAsFarAsItShould) {
+    smes.ChyboveHlasky(2);
+    flash(7, 400, Fractions({1, 1}));  // any other mode is isothermal
+    EXPECT_EQ(messages.size(), 1U);    // the trivial box comes whatever the mode
+    EXPECT_EQ(smes.lastFlash().outcome, FlashOutcome::AllVapour);
+}
+
+TEST_F(FlashReportTest, asksForEverything) {
+    auto& boxes = mixture.boxes;
+    boxes.nextTexts = {"0", "abc", "-5", "50000", "", "0,5", "0,5 0,5", "76,87"};
+    Variant T = 1, P = 2;
+    const std::string report = smes.FLASH(-1, T, P, Variant());
+    const std::string feedPrompt = "Zadat složení nástřiku (mol.zl.) oddělené mezerou nebo středníkem: ";
+    const InputRequest pressure{"Zadat tlak(Pa):", "FLASH", "101300"}, feed{feedPrompt, "FLASH", ""};
+    EXPECT_EQ(boxes.requests, (std::vector<InputRequest>{
+                                  {"FLASH  0-izotermní; 1-adiabatický:", "VELOR", "0"},
+                                  pressure,
+                                  pressure,
+                                  pressure,
+                                  feed,
+                                  feed,
+                                  feed,
+                                  {"Zadat teplotu(°C):\r\nBod varu  56.9\r\nRosný bod 101.9", "VELOR", "88.4"}}));
+    EXPECT_EQ(messages,
+              (std::vector<Message>{{"Nezadáno tolik mol.zlomků, kolik je složek! 2", Icon::Exclamation, "FLASH"}}));
+    EXPECT_NE(report.find("\t0.6667\t0.3333\t0.5000"), std::string::npos);
+    EXPECT_NEAR(T.toDouble(), 350.02, 1e-9);
+    EXPECT_EQ(P, Variant(50000.0));
+}
+
+TEST_F(FlashReportTest, takesAWrongCountWhereMessagesAreOff) {
+    smes.MaxErrHlas(0);
+    mixture.boxes.nextTexts = {"0", "50000", "2", "76.85"};
+    Variant T, P;
+    smes.FLASH(-1, T, P, Variant());
+    EXPECT_EQ(smes.lastFlash().feed, (std::vector<double>{1, 0}));
+    mixture.boxes.nextTexts = {"0", "50000", "1 1 2", "76.85"};  // the third counts in the sum and is left out
+    smes.FLASH(-1, T, P, Variant());
+    EXPECT_EQ(smes.lastFlash().feed, (std::vector<double>{0.25, 0.25}));
+}
+
+TEST_F(FlashReportTest, endsWithTheClassicErrors) {
+    struct Case {
+        Variant T, P, Z;
+        int error;
+    };
+    const Case cases[] = {
+        {350, 50000, Fractions({0, 0}), 11}, {350, 50000, Fractions({1}), 9},   {350, 50000, 5, 13},
+        {"x", 50000, Fractions({1, 1}), 13}, {350, "x", Fractions({1, 1}), 13}, {350, 50000, List({0.5, 0.5}), 9},
+    };
+    for (const Case& c : cases) {
+        SampleMixture fresh(substances());
+        fresh.smes.DefSlozky(List({2, 3}));
+        Variant hostT = c.T, hostP = c.P;
+        EXPECT_EQ(errorNumber([&] { fresh.smes.FLASH(0, hostT, hostP, c.Z); }), c.error);
+        EXPECT_EQ(fresh.smes.lastFlash().outcome, FlashOutcome::None);
+        hostT = 350, hostP = 50000;  // the object stays usable
+        fresh.smes.FLASH(0, hostT, hostP, Fractions({0.5, 0.5}));
+        EXPECT_EQ(fresh.smes.lastFlash().outcome, FlashOutcome::Converged);
+    }
+    // Without a pressure there is no boiling range (both points count as 0), and every temperature lies above it.
+    Variant T = 350, P = 0;
+    smes.FLASH(0, T, P, Fractions({1, 1}));
+    EXPECT_EQ(smes.lastFlash().outcome, FlashOutcome::AllVapour);
+    // The end of input at every question.
+    for (std::size_t answers = 0; answers < 4; ++answers) {
+        SampleMixture fresh(substances());
+        fresh.smes.DefSlozky(List({2, 3}));
+        const std::deque<std::string> all{"0", "50000", "1 1", "80"};
+        fresh.boxes.nextTexts = {all.begin(), all.begin() + static_cast<long>(answers)};
+        EXPECT_EQ(errorNumber([&] { fresh.smes.FLASH(-1, T, P, Variant()); }), 62) << answers;
+    }
+}
+
+// A component alone has one boiling temperature: any other is trivial, and at it the slope of the balance vanishes.
+TEST_F(FlashReportTest, ofOneComponentIsTrivial) {
+    smes.DefSmes(1, Variant::array(1, {2}));
+    smes.ZapisNslozky(1, 2);
+    EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{1}));
+    for (const auto& [T, outcome] : {std::pair{290.0, FlashOutcome::AllLiquid}, {310.0, FlashOutcome::AllVapour}}) {
+        flash(0, T, Fractions({1}));
+        EXPECT_EQ(smes.lastFlash().outcome, outcome);
+    }
+}
+
+}  // namespace
+}  // namespace velor
