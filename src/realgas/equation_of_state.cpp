@@ -58,6 +58,7 @@ double logRepulsion(double T, double p, double V, double b) {
 }  // namespace
 
 CubicComponent cubicComponent(Attraction attraction, double Tc, double pc, double acentric) {
+    if (Tc == 0.0) checked::raise(RunTimeError::kDivisionByZero);
     const double RTc = kGasConstant * Tc;
     const double c = divide(std::sqrt(kOmegaA) * RTc, squareRoot(pc));
     CubicComponent component{divide(kOmegaB * RTc, pc), 0.0, 0.0};

@@ -23,8 +23,8 @@ struct CubicComponent {
     double second = 0;
 };
 
-// From the critical temperature, the critical pressure in MPa and the acentric factor. Errors: 5 and 11 for a pressure
-// that is negative or 0.
+// From the critical temperature, the critical pressure in MPa and the acentric factor. Errors: 5 and 11 for
+// a temperature or a pressure that is negative or 0.
 CubicComponent cubicComponent(Attraction attraction, double Tc, double pc, double acentric);
 
 // A mixture's parameters at a temperature.

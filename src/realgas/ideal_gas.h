@@ -21,7 +21,8 @@ struct HeatCapacity {
 };
 
 // Integrals from a fixed temperature T0. Exact for polynomials (types 1..5), clamped or not; within 1e-9 for the
-// other types. Errors: 5, 11 for temperatures that are not positive.
+// other types, unless their reference temperature cuts the interval (then 1e-6). Errors: 5, 11 for temperatures that
+// are not positive.
 class HeatCapacityIntegral {
   public:
     HeatCapacityIntegral() = default;

@@ -40,14 +40,15 @@ Attraction attractionOf(const State& state) {
     return state.Redlich == 0 ? Attraction::RedlichKwong : Attraction::Soave;
 }
 
-PreparedGas& preparedGas(State& state) {
-    PreparedGas* kept = state.preparedGas.get();
+// Shared, because a message box may lead the host back into this object and renew the constants under a running call.
+std::shared_ptr<PreparedGas> preparedGas(State& state) {
+    const PreparedGas* kept = state.preparedGas.get();
     if (!kept || kept->revision != state.slots.revision() || kept->Redlich != state.Redlich ||
         kept->MezeTeplot != state.MezeTeplot) {
         state.preparedGas =
             std::make_shared<PreparedGas>(PreparedGas{state.slots.revision(), state.Redlich, state.MezeTeplot, {}});
     }
-    return *state.preparedGas;
+    return state.preparedGas;
 }
 
 const CubicComponent& cubicOf(State& state, PreparedGas::Component& kept, int i) {
@@ -103,10 +104,10 @@ struct IdealGas {
     bool hasReference = true;
 };
 
-IdealGas gatherIdealGas(State& state, PreparedGas& prepared, double T, ComponentValues& x) {
+IdealGas gatherIdealGas(State& state, PreparedGas& prepared, double T, ComponentValues& x, int n) {
     const double lnT = checked::naturalLogarithm(T);
     IdealGas sum;
-    for (int i = 1; i <= state.PocSlozek; ++i) {
+    for (int i = 1; i <= n; ++i) {
         if (x[i] == 0.0) continue;
         PreparedGas::Component& kept = prepared.components[ComponentSlots::index(i)];
         sum.heatCapacity += x[i] * FFce(state, T, i, kCPG);
@@ -122,21 +123,23 @@ IdealGas gatherIdealGas(State& state, PreparedGas& prepared, double T, Component
     return sum;
 }
 
-CubicParameters gatherParameters(State& state, PreparedGas& prepared, double T, ComponentValues& x) {
+CubicParameters gatherParameters(State& state, PreparedGas& prepared, double T, ComponentValues& x, int n) {
     std::array<CubicComponent, ComponentSlots::kCount> components{};
-    for (int i = 1; i <= state.PocSlozek; ++i)
+    for (int i = 1; i <= n; ++i)
         if (x[i] != 0.0)
             components[ComponentSlots::index(i)] = cubicOf(state, prepared.components[ComponentSlots::index(i)], i);
-    const auto fractions = x.first(state.PocSlozek);
+    const auto fractions = x.first(n);
     return mixtureParameters(attractionOf(state), T, fractions, std::span(components).first(fractions.size()));
 }
 
 double solve(State& state, int mode, double T, double P, const Composition& X) {
+    const int n = state.PocSlozek;
     ComponentValues x = takeFractions(state, X);
     if (P == 0.0) checked::raise(RunTimeError::kDivisionByZero);
     const double p = P / kMegapascal;
-    PreparedGas& prepared = preparedGas(state);
-    const CubicParameters mixture = gatherParameters(state, prepared, T, x);
+    const std::shared_ptr<PreparedGas> kept = preparedGas(state);
+    PreparedGas& prepared = *kept;
+    const CubicParameters mixture = gatherParameters(state, prepared, T, x, n);
     const double V = gasVolume(T, p, mixture).V;
     const double Z = checked::divide(p * V, kGasConstant * T);
     RealGasState& result = state.realGas;
@@ -145,7 +148,7 @@ double solve(State& state, int mode, double T, double P, const Composition& X) {
         result.density = checked::divide(1.0, V);
         return Z;
     }
-    const IdealGas ideal = gatherIdealGas(state, prepared, T, x);
+    const IdealGas ideal = gatherIdealGas(state, prepared, T, x, n);
     const CubicState residual = residualState(T, p, V, mixture);
     const double Cv = ideal.heatCapacity - kGasConstant + residual.heatCapacityV;
     const double Cp = Cv - checked::divide(T * residual.dpdT * residual.dpdT, residual.dpdV);
@@ -167,17 +170,25 @@ double solve(State& state, int mode, double T, double P, const Composition& X) {
     return Z;
 }
 
+std::string title(const HostNumber& T, const HostNumber& P) {
+    return titleAtTemperature("TEVRP", T) + " ,P(Pa)= " + P.text("#0");
+}
+
 }  // namespace
 
 std::optional<double> TEVRP(State& state, int mode, HostNumber T, HostNumber P, const Composition& X) {
     state.realGas = {};
     return trapped(
-        state, [&] { return titleAtTemperature("TEVRP", T) + " ,P(Pa)= " + P.text("#0"); },
-        [&] { return solve(state, mode, T.toDouble(), P.toDouble(), X); });
+        state, [&] { return title(T, P); }, [&] { return solve(state, mode, T.toDouble(), P.toDouble(), X); });
 }
 
 Variant Smes::TEVRP(int mode, const Variant& T, const Variant& P, const Variant& X) {
-    return method(*state_, [&] { return velor::TEVRP(*state_, checkedInt16(mode), T, P, Composition(X)); });
+    State& state = *state_;
+    checkedInt16(mode);
+    state.realGas = {};
+    return trappedMethod(
+        state, [&] { return title(T, P); },
+        [&] { return solve(state, mode, T.toDouble(), P.toDouble(), Composition(X)); });
 }
 
 }  // namespace velor
