@@ -4,6 +4,7 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -24,7 +25,8 @@ struct TextBox {
     bool enabled = true;
 };
 
-// Which control has the focus; index counts within an array of controls.
+// Which control has the focus; index counts within an array of controls. A view selects the text of a value box that
+// gets it.
 struct Focus {
     enum class Control { None, List, Number, Value, Confirm };
     Control control = Control::None;
@@ -101,6 +103,8 @@ class F_Seznam {
     void close() { visible = false; }
 
   private:
+    void exclaim(const std::string& text) const;
+    void focusNumber(int k);
     void focusByOption();
     void showNextBox();
 };

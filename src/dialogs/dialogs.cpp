@@ -2,6 +2,7 @@
 #include <memory>
 #include <string>
 
+#include "dialogs/quick_sort.h"
 #include "dialogs/substance_list.h"
 #include "platform/system.h"
 #include "runtime/numbers.h"
@@ -34,7 +35,7 @@ std::vector<std::string> linesInOrder(State& state) {
     if (state.RezimSeznamu >= kSearch) return lines;
     const std::string answer = state.userInterface->askText(
         {"0 - podle abecedy" + std::string(kLineBreak) + "1 - podle čísel (chvíli trvá ...)", "VELOR", "0"});
-    if (answer == "1") quickSort(state.randomState, lines, 1, state.PocLatek);
+    if (answer == "1") sortLines(state.randomState, lines);
     if (answer == "2") state.RezimSeznamu = kSearch;
     return lines;
 }
@@ -105,7 +106,7 @@ void Smes::QuickSort(Variant& arr, int first, int last) {
     if (checkedInt16(first) >= checkedInt16(last)) return;
     std::vector<std::string> lines;
     for (int i = first; i <= last; ++i) lines.push_back(arr.at(i).toText());
-    quickSort(state_->randomState, lines, 1, static_cast<int>(lines.size()));
+    sortLines(state_->randomState, lines);
     for (int i = first; i <= last; ++i) arr.at(i) = lines[static_cast<std::size_t>(i - first)];
 }
 

@@ -4,7 +4,6 @@
 #include <ostream>
 #include <string>
 
-#include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "velor/forms.h"
 #include "velor/user_interface.h"
@@ -24,9 +23,8 @@ std::string withoutMark(std::string caption) {
 }
 
 void typeInto(F_Seznam& form, const std::string& number) {
-    const int box = std::min(form.PocZadanych, F_Seznam::kBoxes - 1);
-    form.setText(box, number);
-    form.keyPressed(box, kEnterKey);
+    form.setText(form.PocZadanych, number);
+    form.keyPressed(form.PocZadanych, kEnterKey);
 }
 
 void listChosen(const F_Seznam& form, std::ostream& out) {
@@ -37,18 +35,20 @@ void listChosen(const F_Seznam& form, std::ostream& out) {
 
 void listMatches(const F_Seznam& form, const std::string& text, std::ostream& out) {
     const std::string wanted = upperCase(text);
-    for (const std::string& line : form.L_Seznam.items)
-        if (upperCase(line).find(wanted) != std::string::npos) out << line << '\n';
+    bool found = false;
+    for (const std::string& line : form.L_Seznam.items) {
+        if (upperCase(line).find(wanted) == std::string::npos) continue;
+        out << line << '\n';
+        found = true;
+    }
+    if (!found) out << "Látka  " << wanted << "  nenalezena!!!\n";
+}
+
+void tellOption(const F_Sloz& form, std::ostream& out) {
+    out << form.Nadpiss << ": " << (form.O_Mol ? form.O_MolCaption : form.O_HmotCaption) << '\n';
 }
 
 }  // namespace
-
-bool StreamUserInterface::readLine(std::string& line) {
-    if (!std::getline(answers_, line)) return false;
-    std::erase(line, '\r');
-    line = std::string(trimBlanks(line));
-    return true;
-}
 
 void StreamUserInterface::showForm(F_Sezn& form) {
     messages_ << form.Nadpis_1 << '\n' << form.Nadpis_2 << '\n' << form.Titulek << '\n';
@@ -61,13 +61,17 @@ void StreamUserInterface::showForm(F_Sezn& form) {
 
 void StreamUserInterface::showForm(F_Seznam& form) {
     messages_ << form.Nadpis_1 << '\n'
-              << form.Nadpis_2 << ", " << form.lblDatafile << '\n'
-              << "číslo látky, text k hledání, ok = " << withoutMark(form.C_OKCaption)
-              << ", z = " << withoutMark(form.ZpetCaption) << ", k = konec beze změny\n";
+              << form.Nadpis_2 << " (" << form.lblDatafile << ")\n"
+              << "  číslo  přidá látku do směsi\n"
+              << "  text   vyhledá látky, jejichž řádek ho obsahuje\n"
+              << "  ok     " << withoutMark(form.C_OKCaption) << '\n'
+              << "  z      " << withoutMark(form.ZpetCaption) << '\n'
+              << "  k      Konec beze změny\n";
     for (std::string line; form.visible;) {
         listChosen(form, messages_);
         messages_ << "> " << std::flush;
         if (!readLine(line)) return form.close();
+        line = std::string(trimBlanks(line));
         const std::string command = upperCase(line);
         if (command == "OK") {
             form.clickC_OK();
@@ -85,31 +89,42 @@ void StreamUserInterface::showForm(F_Seznam& form) {
     }
 }
 
+// Asks for the values one after another, then for the confirmation; a change of the kind starts again with the first.
 void StreamUserInterface::showForm(F_Sloz& form) {
-    messages_ << form.Navod << '\n'
-              << "m = " << form.O_MolCaption << ", h = " << form.O_HmotCaption
-              << ", z = " << withoutMark(form.C_ZpetCaption) << '\n';
+    messages_ << trimBlanks(form.Navod) << '\n'
+              << "  číslo  složení složky; samotný Enter ponechá hodnotu v závorce\n"
+              << "  m      " << form.O_MolCaption << ", znovu od první složky\n"
+              << "  h      " << form.O_HmotCaption << ", znovu od první složky\n"
+              << "  z      " << withoutMark(form.C_ZpetCaption) << '\n';
+    tellOption(form, messages_);
     int i = 0;
-    for (std::string line; form.visible && i < form.components;) {
-        const auto box = static_cast<std::size_t>(i);
-        messages_ << (form.O_Mol ? form.O_MolCaption : form.O_HmotCaption) << ' ' << trimBlanks(form.L_J[box]);
-        if (!form.T_S[box].text.empty()) messages_ << " [" << form.T_S[box].text << "]";
+    for (std::string line; form.visible;) {
+        const bool complete = i >= form.components;
+        if (complete) {
+            messages_ << withoutMark(form.C_OKCaption) << " [Enter]";
+        } else {
+            const auto box = static_cast<std::size_t>(i);
+            messages_ << "  " << trimBlanks(form.L_J[box]);
+            if (!form.T_S[box].text.empty()) messages_ << " [" << form.T_S[box].text << "]";
+        }
         messages_ << ": " << std::flush;
         if (!readLine(line)) return form.close();
+        line = std::string(trimBlanks(line));
         const std::string command = upperCase(line);
-        if (command == "M") {
-            form.clickO_Mol();
-        } else if (command == "H") {
-            form.clickO_Hmot();
-        } else if (command == "Z") {
+        if (command == "Z") {
             form.clickC_Zpet();
-        } else {
+        } else if (command == "M" || command == "H") {
+            command == "M" ? form.clickO_Mol() : form.clickO_Hmot();
+            tellOption(form, messages_);
+            i = form.focus.index;
+        } else if (!complete) {
             if (!line.empty()) form.setText(i, line);
             form.keyPressed(i, kEnterKey);
             ++i;
+        } else if (line.empty()) {
+            form.clickC_OK();
         }
     }
-    if (form.visible) form.clickC_OK();
 }
 
 }  // namespace velor

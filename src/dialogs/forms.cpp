@@ -41,6 +41,10 @@ void F_Seznam::selectLine(int index) {
     L_Seznam.selected = index;
 }
 
+void F_Seznam::exclaim(const std::string& text) const {
+    if (showExclamation) showExclamation(text);
+}
+
 void F_Seznam::showNextBox() {
     if (PocZadanych >= kBoxes) return;
     TextBox& next = boxAt(T_Smes, PocZadanych);
@@ -48,11 +52,8 @@ void F_Seznam::showNextBox() {
 }
 
 void F_Seznam::doubleClick() {
+    if (PocZadanych == kBoxes) return exclaim("Maximální počet složek směsi je 20");
     if (L_Seznam.selected < 0) return;
-    if (PocZadanych == kBoxes) {
-        showExclamation("Maximální počet složek směsi je 20");
-        return;
-    }
     const std::string& line = L_Seznam.items[static_cast<std::size_t>(L_Seznam.selected)];
     boxAt(T_Smes, PocZadanych).text = std::to_string(roundToInt16(parseLeadingNumber(line)));
     ++PocZadanych;
@@ -75,29 +76,31 @@ void F_Seznam::keyPressed(int k, int key) {
     if (!next.empty() && next != "0") {
         ++PocZadanych;
         showNextBox();
-        if (PocZadanych == kBoxes) {
-            NeniCislice = false;
-            focus = {Focus::Control::Confirm, 0};
-        } else {
-            focus = {Focus::Control::Number, PocZadanych};
-        }
-    } else if (k + 1 == kBoxes) {
-        focus = {Focus::Control::Confirm, 0};
+        if (PocZadanych == kBoxes) NeniCislice = false;
+        focusNumber(PocZadanych);
     } else if (k < PocZadanych) {
-        focus = {Focus::Control::Number, k + 1};
+        focusNumber(k + 1);
     }
 }
 
 void F_Seznam::keyReleased(int k) {
     boxAt(T_Smes, k);
-    if (!NeniCislice || PocZadanych == kBoxes) return;
-    boxAt(T_Smes, PocZadanych).text.clear();
+    if (NeniCislice && PocZadanych < kBoxes) boxAt(T_Smes, PocZadanych).text.clear();
     NeniCislice = false;
+}
+
+// There is no box behind the last one; confirming is next.
+void F_Seznam::focusNumber(int k) {
+    if (k < kBoxes) {
+        focus = {Focus::Control::Number, k};
+    } else {
+        focus = {Focus::Control::Confirm, 0};
+    }
 }
 
 void F_Seznam::focusByOption() {
     if (Option1) {
-        focus = {Focus::Control::Number, PocZadanych};
+        focusNumber(PocZadanych);
     } else {
         focus = {Focus::Control::List, 0};
     }
@@ -122,7 +125,7 @@ void F_Seznam::clickZpet() {
 
 void F_Seznam::clickC_OK() {
     if (PocZadanych == 0) {
-        showExclamation("Nezadána žádná látka nebo po zadání čísla látky nebyl stisknut Enter!");
+        exclaim("Nezadána žádná látka nebo po zadání čísla látky nebyl stisknut Enter!");
         focus = {Focus::Control::Number, 0};
         return;
     }

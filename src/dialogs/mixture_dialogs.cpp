@@ -47,6 +47,7 @@ bool prepareForm(State& state, F_Sloz& form, const Variant& X, const Variant& W,
     form.L_J.fill("");
     for (TextBox& box : form.T_S) box = {"", true, false};
     form.components = state.PocSlozek;
+    form.focus = {Focus::Control::Value, 0};  // the last one may lie behind the components now
     bool acceptable = true;
     for (int i = 1; i <= state.PocSlozek; ++i) {
         const std::size_t box = ComponentSlots::index(i);
@@ -117,9 +118,9 @@ void Smes::mZadSmes_SZavrit(const F_Seznam::CislaLatek& CislaLatek) {
     State& state = *state_;
     state.componentsForm->visible = false;
     const std::int16_t n = CislaLatek[0];
-    for (int i = 1; i <= n; ++i) state.slots.setCisloLatky(i, CislaLatek[static_cast<std::size_t>(i)]);
-    if (n < ComponentSlots::kCount) state.slots.setCisloLatky(n + 1, 0);
     state.PocSlozek = n;
+    for (int i = 1; i <= n; ++i) state.slots.setCisloLatky(i, CislaLatek[ComponentSlots::index(i) + 1]);
+    if (n < ComponentSlots::kCount) state.slots.setCisloLatky(n + 1, 0);
     if (loadComponents(state) == 0 && state.ChyboveHlasky < 2)
         show(state, "Nemohu načíst z " + state.DataFileName + "!", Icon::Critical);
 }

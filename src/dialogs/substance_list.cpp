@@ -1,11 +1,14 @@
 #include "dialogs/substance_list.h"
 
 #include <algorithm>
-#include <cmath>
+#include <compare>
+#include <span>
 #include <string_view>
+#include <utility>
 
 #include "database/locate.h"
 #include "database/record_file.h"
+#include "dialogs/quick_sort.h"
 #include "platform/file_system.h"
 #include "platform/system.h"
 #include "runtime/numbers.h"
@@ -59,6 +62,14 @@ std::string_view sortKey(const std::string& line) {
     return std::string_view(line).substr(0, line.size() - rest.size());
 }
 
+// What is sorted in place of a line. The position sets equal keys apart, which the sort asks for.
+struct KeyedLine {
+    std::string_view key;
+    std::size_t position;
+
+    auto operator<=>(const KeyedLine&) const = default;
+};
+
 std::vector<std::string> readLines(State& state) {
     const RecordFile database(state.AdresaBaze);
     std::vector<std::string> lines;
@@ -105,53 +116,22 @@ void writeListing(State& state) {
 
 }  // namespace
 
-double nextRandom(std::uint32_t& randomState) {
-    constexpr std::uint32_t kModulus = 1U << 24U;
-    randomState = (randomState * 1140671485U + 12820163U) % kModulus;
-    return static_cast<double>(randomState) / kModulus;
-}
-
-int randomBetween(std::uint32_t& randomState, int lower, int upper) {
-    return static_cast<int>(std::floor((upper - lower + 1) * nextRandom(randomState))) + lower;
-}
-
-void quickSort(std::uint32_t& randomState, std::vector<std::string>& lines, int first, int last) {
-    const auto line = [&](int i) -> std::string& { return lines[static_cast<std::size_t>(i - 1)]; };
-    const auto exchange = [&](int a, int b) { std::swap(line(a), line(b)); };
-    if (first >= last) return;
-    if (last - first == 1) {
-        if (sortKey(line(first)) > sortKey(line(last))) exchange(first, last);
-        return;
-    }
-    exchange(last, randomBetween(randomState, first, last));
-    const std::string pivot(sortKey(line(last)));
-    int i = first, j = last;
-    do {
-        i = first;
-        j = last;
-        while (i < j && sortKey(line(i)) <= pivot) ++i;
-        while (j > i && sortKey(line(j)) >= pivot) --j;
-        if (i < j) exchange(i, j);
-    } while (i < j);
-    exchange(i, last);
-    // Neighbours equal to the pivot are in their places; without this step equal lines would take quadratic time.
-    int left = i - 1, right = i + 1;
-    while (left > first && sortKey(line(left)) == pivot) --left;
-    while (right < last && sortKey(line(right)) == pivot) ++right;
-    if (i - first < last - i) {
-        quickSort(randomState, lines, first, left);
-        quickSort(randomState, lines, right, last);
-    } else {
-        quickSort(randomState, lines, right, last);
-        quickSort(randomState, lines, first, left);
-    }
+void sortLines(std::uint32_t& randomState, std::vector<std::string>& lines) {
+    std::vector<KeyedLine> order;
+    order.reserve(lines.size());
+    for (std::size_t i = 0; i < lines.size(); ++i) order.push_back({sortKey(lines[i]), i});
+    quickSort(randomState, std::span(order));
+    std::vector<std::string> sorted;
+    sorted.reserve(lines.size());
+    for (const KeyedLine& line : order) sorted.push_back(std::move(lines[line.position]));
+    lines = std::move(sorted);
 }
 
 void rebuildSubstanceList(State& state) {
     if (state.AdresaBaze.empty()) locateDatabase(state);
     if (state.AdresaBaze.empty()) return;
     std::vector<std::string> lines = readLines(state);
-    quickSort(state.randomState, lines, 1, static_cast<int>(lines.size()));
+    sortLines(state.randomState, lines);
     std::transform(lines.begin(), lines.end(), lines.begin(), numberToFront);
     state.SeznamLatek = std::move(lines);
     state.PocLatek = static_cast<std::int16_t>(state.SeznamLatek.size());

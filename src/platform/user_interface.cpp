@@ -25,11 +25,16 @@ const char* iconMark(Icon icon) {
     return "";
 }
 
-// Terminals want lines ended by LF alone.
-std::string withoutCarriageReturns(const std::string& text) {
+// Terminals want lines ended by LF alone; a lone CR breaks a line, too.
+std::string terminalLines(const std::string& text) {
     std::string lines;
-    for (const char c : text)
-        if (c != '\r') lines += c;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r') {
+            lines += text[i];
+        } else if (i + 1 == text.size() || text[i + 1] != '\n') {
+            lines += '\n';
+        }
+    }
     return lines;
 }
 
@@ -42,25 +47,30 @@ Value takeFirst(std::deque<Value>& queue) {
 
 }  // namespace
 
+bool StreamUserInterface::readLine(std::string& line) {
+    if (!std::getline(answers_, line)) return false;
+    std::erase(line, '\r');
+    return true;
+}
+
 Answer StreamUserInterface::showMessage(const Message& message) {
-    messages_ << iconMark(message.icon) << message.title << ": " << withoutCarriageReturns(message.text) << std::endl;
+    messages_ << iconMark(message.icon) << message.title << ": " << terminalLines(message.text) << std::endl;
     if (message.buttons == Buttons::Ok) return Answer::Ok;
     for (std::string line;;) {
         messages_ << "[a/n] " << std::flush;
-        if (!std::getline(answers_, line)) return Answer::No;
-        const std::string answer = upperCase(trimBlanks(withoutCarriageReturns(line)));
+        if (!readLine(line)) return Answer::No;
+        const std::string answer = upperCase(trimBlanks(line));
         if (answer == "A" || answer == "ANO" || answer == "Y" || answer == "YES") return Answer::Yes;
         if (answer == "N" || answer == "NE" || answer == "NO") return Answer::No;
     }
 }
 
 std::string StreamUserInterface::askText(const InputRequest& request) {
-    messages_ << request.title << ": " << withoutCarriageReturns(request.prompt);
+    messages_ << request.title << ": " << terminalLines(request.prompt);
     if (!request.defaultAnswer.empty()) messages_ << " [" << request.defaultAnswer << "]";
     messages_ << ' ' << std::flush;
     std::string line;
-    if (!std::getline(answers_, line)) checked::raise(RunTimeError::kInputPastEnd);
-    line = withoutCarriageReturns(line);
+    if (!readLine(line)) checked::raise(RunTimeError::kInputPastEnd);
     return line.empty() ? request.defaultAnswer : line;
 }
 

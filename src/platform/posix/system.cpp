@@ -22,6 +22,7 @@ namespace velor::platform {
 
 namespace {
 
+using Locale = std::unique_ptr<std::remove_pointer_t<locale_t>, decltype([](locale_t locale) { freelocale(locale); })>;
 using MountTable = std::unique_ptr<FILE, decltype([](FILE* table) { endmntent(table); })>;
 
 // File systems that the kernel keeps on no device but that hold a user's files all the same.
@@ -48,15 +49,17 @@ bool isFolder(const std::string& path) {
 
 std::string pathOfImage(const void* address) {
     Dl_info image{};
-    if (dladdr(address, &image) == 0 || image.dli_fname == nullptr) return {};
+    const bool known = dladdr(address, &image) != 0 && image.dli_fname != nullptr && *image.dli_fname != '\0';
     Dl_info program{};
     // NOLINTNEXTLINE(performance-no-int-to-ptr): the kernel passes the address as a number.
     const auto* const programHeader = reinterpret_cast<const void*>(getauxval(AT_PHDR));
     std::error_code error;
-    if (dladdr(programHeader, &program) != 0 && program.dli_fbase == image.dli_fbase) {
-        // For the program itself the linker only knows the name that it was called by.
+    if (!known || (dladdr(programHeader, &program) != 0 && program.dli_fbase == image.dli_fbase)) {
+        // For the program itself the linker only knows the name that it was called by, and nothing at all where even
+        // the C library is linked statically.
         const auto path = std::filesystem::read_symlink("/proc/self/exe", error);
         if (!error) return path.string();
+        if (!known) return {};
     }
     const auto path = std::filesystem::canonical(image.dli_fname, error);
     return error ? std::string(image.dli_fname) : path.string();
@@ -89,9 +92,10 @@ std::string shortDate() {
     std::tm today{};
     localtime_r(&now, &today);
     char text[64] = "";
-    const locale_t user = newlocale(LC_TIME_MASK, "", nullptr);
-    strftime_l(text, sizeof text, "%x", &today, user != nullptr ? user : LC_GLOBAL_LOCALE);
-    if (user != nullptr) freelocale(user);
+    // The environment may name a locale that is not installed.
+    const Locale user(newlocale(LC_TIME_MASK, "", nullptr));
+    const Locale plain(user ? nullptr : newlocale(LC_TIME_MASK, "C", nullptr));
+    strftime_l(text, sizeof text, "%x", &today, user ? user.get() : plain.get());
     return text;
 }
 

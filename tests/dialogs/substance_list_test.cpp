@@ -1,0 +1,189 @@
+// The list of the database and SEZNAM.DAT, byte for byte.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <filesystem>
+
+#include "platform/system.h"
+#include "support/sample_mixture.h"
+
+namespace velor {
+namespace {
+
+namespace fs = std::filesystem;
+using test::databaseBytes;
+using test::errorNumber;
+using test::readFile;
+using test::sampleSubstance;
+
+TLatka substance(std::string_view name, std::string_view synonym, std::string_view formula, int registryNumber) {
+    TLatka record;
+    test::setText(record.Nazev, name);
+    test::setText(record.Synonym, synonym);
+    test::setText(record.Vzorec, formula);
+    record.CAS = registryNumber;
+    return record;
+}
+
+std::vector<TLatka> substances(int count) {
+    std::vector<TLatka> records;
+    for (int number = 1; number <= count; ++number)
+        records.push_back(sampleSubstance(number, "Látka " + std::to_string(count - number)));
+    return records;
+}
+
+struct SubstanceListTest : ::testing::Test {
+    test::TemporaryFolder folder;
+    RecordingUserInterface boxes;
+    Smes smes{boxes, {}};
+
+    SubstanceListTest() { smes.CFGPath(folder.path()); }
+
+    void useDatabase(const std::vector<TLatka>& records) {
+        smes.AdrVELOR(folder.write("VELOR.DRC", databaseBytes(records)));
+    }
+};
+
+std::string listingHeader(const std::string& count) {
+    return "          SEZNAM L\xC1TEK DATAB\xC1ZE VELOR ke dni " + platform::shortDate() +
+           "\r\n          Z\xE1znamy v b\xE1zi o " + count +
+           " l\xE1tk\xE1"
+           "ch\r\n";
+}
+
+TEST_F(SubstanceListTest, isWrittenByteForByte) {
+    std::vector<TLatka> records(1234, test::blankRecord());
+    records[0] = substance("Voda", "Aqua", "H2O", 7732185);
+    records[2] = TLatka{};  // bytes of zero
+    records[3] = substance("Šťavelová kyselina žlutá", "", "C2H2O4", 0);
+    records[4] = substance(" x jeden", "", "C10H22O11N", -5);
+    records[5] = substance("Éter", "", "C4H10O", 5);
+    records[6] = substance("Zinek bílý a dlouhý název", "Synonym je taky dlouhý", "Zn", 2147483647);
+    records[998] = substance("Železo", "ferrum", "Fe", 123);
+    records[1233] = substance("ethanol", "líh", "C2H6O", 64175);
+    useDatabase(records);
+    folder.write("SEZNAM.DAT", std::string(5000, 'x'));
+    smes.AkSeznam();
+
+    // By the characters' codes, so that capitals come first and accented letters last.
+    const std::string expected = listingHeader("7") +
+                                 "005   x jeden                                  C10H22O11N  \r\n"
+                                 "001  Voda                 Aqua                 H2O       [7732-18-5] \r\n"
+                                 "007  Zinek b\xEDl\xFD a dlouh\xFD  Synonym je taky dlou Zn        [2147483-64-7 \r\n"
+                                 "234  ethanol              l\xEDh                  C2H6O     [64-17-5] 1\r\n"
+                                 "006  \xC9ter                                      C4H10O      \r\n"
+                                 "004  \x8A\x9D"
+                                 "avelov\xE1 kyselina \x9E                      C2H2O4      \r\n"
+                                 "999  \x8E"
+                                 "elezo               ferrum               Fe        [-12-3] \r\n";
+    EXPECT_EQ(readFile(folder / "SEZNAM.DAT"), expected);
+    EXPECT_EQ(smes.PocLatek(), 7);
+    EXPECT_EQ(smes.SeznamLatek(1), "005   x jeden                                  C10H22O11N  ");
+    EXPECT_EQ(smes.SeznamLatek(7), "999  Železo               ferrum               Fe        [-12-3] ");
+    EXPECT_EQ(errorNumber([&] { smes.SeznamLatek(0); }), 9);
+    EXPECT_EQ(errorNumber([&] { smes.SeznamLatek(8); }), 9);
+    EXPECT_TRUE(boxes.messages.empty());
+    // Slot 1 was the buffer of the reading.
+    smes.ZapisNslozky(1, 1);
+    EXPECT_EQ(smes.Nazev(1), Variant("ethanol                       "));
+}
+
+TEST_F(SubstanceListTest, refusesARegistryNumberOfTwoDigits) {
+    useDatabase({substance("Voda", "", "H2O", 7732185)});
+    smes.AkSeznam();
+    useDatabase({substance("Aceton", "", "", 99), substance("Benzen", "", "", 9)});
+    EXPECT_EQ(errorNumber([&] { smes.AkSeznam(); }), 5);
+    EXPECT_EQ(smes.SeznamLatek(1), "001  Voda                                      H2O       [7732-18-5] ");
+}
+
+TEST_F(SubstanceListTest, hasRoomFor900AndShows800) {
+    useDatabase(substances(800));
+    boxes.nextTexts = {"0"};
+    smes.SeznamShow();
+    EXPECT_EQ(smes.PocLatek(), 800);
+    useDatabase(substances(900));
+    smes.SeznamShow(3);
+    EXPECT_EQ(smes.PocLatek(), 800);  // what is there is not built again
+    smes.AkSeznam();
+    EXPECT_EQ(smes.PocLatek(), 900);
+    boxes.requests.clear();
+    EXPECT_EQ(errorNumber([&] { smes.SeznamShow(); }), 9);
+    EXPECT_TRUE(boxes.requests.empty());
+    useDatabase(substances(901));
+    EXPECT_EQ(errorNumber([&] { smes.AkSeznam(); }), 9);
+    EXPECT_EQ(smes.PocLatek(), 900);
+}
+
+TEST_F(SubstanceListTest, mayBeEmpty) {
+    useDatabase({test::blankRecord(), TLatka{}});
+    smes.AkSeznam();
+    EXPECT_EQ(smes.PocLatek(), 0);
+    EXPECT_EQ(readFile(folder / "SEZNAM.DAT"), listingHeader("0"));
+    smes.SeznamShow(3);
+    smes.ZadejSmes();
+    EXPECT_TRUE(boxes.messages.empty());
+}
+
+TEST_F(SubstanceListTest, needsADatabase) {
+    smes.AkSeznam();  // the search of no drives finds nothing and says so
+    EXPECT_EQ(boxes.messages.size(), 2U);
+    EXPECT_EQ(smes.PocLatek(), 0);
+    EXPECT_FALSE(fs::exists(folder / "SEZNAM.DAT"));
+    smes.AdrVELOR(folder / "gone");
+    EXPECT_EQ(errorNumber([&] { smes.AkSeznam(); }), 53);
+}
+
+// The folder is what stands before the first occurrence of the file name.
+TEST_F(SubstanceListTest, complainsOfAPathThatItCannotSplit) {
+    struct Case {
+        std::string path;
+        bool message;
+        int error;
+        std::string listing;
+    };
+    const Case cases[] = {
+        {"VELOR.DRC", true, 0, "SEZNAM.DAT"},
+        {"ab/VELOR.DRC", true, 0, "ab/SEZNAM.DAT"},
+        {"éé/VELOR.DRC", true, 0, "éé/SEZNAM.DAT"},
+        {"abc/velor.drc", false, 0, "abc/SEZNAM.DAT"},
+        {"žluť/Velor.Drc", false, 0, "žluť/SEZNAM.DAT"},
+        {"old.velor.drc/VELOR.DRC", false, 0, "old.SEZNAM.DAT"},
+        {"abcd/other.drc", true, 5, ""},
+    };
+    const fs::path before = fs::current_path();
+    fs::current_path(folder.path());
+    int count = 0;
+    for (const Case& c : cases) {
+        smes.AdrVELOR(c.path);
+        folder.write(c.path, databaseBytes(substances(++count)));
+        boxes.messages.clear();
+        EXPECT_EQ(errorNumber([&] { smes.AkSeznam(); }), c.error) << c.path;
+        const std::vector<Message> complaint{{"VELOR - chyba v cestě k souboru", Icon::None, "VELOR"}};
+        EXPECT_EQ(boxes.messages, c.message ? complaint : std::vector<Message>{}) << c.path;
+        EXPECT_EQ(smes.PocLatek(), count) << c.path;
+        EXPECT_EQ(!c.listing.empty(), fs::exists(c.listing)) << c.path;
+    }
+    fs::current_path(before);
+}
+
+TEST_F(SubstanceListTest, isCompleteWhereItsFolderIsReadOnly) {
+    const std::string database = folder.write("read-only/VELOR.DRC", databaseBytes(substances(3)));
+    fs::permissions(folder.path(), fs::perms(0755));
+    fs::permissions(folder / "read-only", fs::perms(0555));
+    fs::permissions(database, fs::perms(0444));
+    smes.AdrVELOR(database);
+    const uid_t user = geteuid();
+    if (user == 0) {  // who may write everywhere
+        ASSERT_EQ(seteuid(65534), 0);
+    }
+    EXPECT_EQ(errorNumber([&] { smes.AkSeznam(); }), 70);
+    EXPECT_EQ(smes.PocLatek(), 3);
+    boxes.nextTexts = {"látka"};
+    EXPECT_EQ(errorNumber([&] { smes.SeznamShow(2); }), 0);
+    EXPECT_EQ(seteuid(user), 0);
+    fs::permissions(folder / "read-only", fs::perms::owner_write, fs::perm_options::add);
+}
+
+}  // namespace
+}  // namespace velor
