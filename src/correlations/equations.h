@@ -4,6 +4,8 @@
 #include <array>
 #include <string_view>
 
+#include "correlations/temperature.h"
+
 namespace velor {
 
 using Coefficients = std::array<float, 6>;  // A1..A6
@@ -19,7 +21,7 @@ inline constexpr bool isEquationType(int type) { return type >= 1 && type <= kEq
 // coefficients. Types 7, 8, 13, 14, 15 and 16 give kNoValue beyond their reference temperature (A3, A4, A5, A2, A3,
 // A6). Errors: 5 a logarithm, root or power that does not exist, 6 a result that is not finite or a damaged
 // coefficient, 11 a zero denominator; 9 another type.
-double evaluateEquation(int type, const Coefficients& A, double T);
+double evaluateEquation(int type, const Coefficients& A, const Temperature& T);
 
 // How an equation is shown to the user.
 std::string_view equationText(int type);

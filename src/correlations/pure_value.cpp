@@ -17,19 +17,20 @@ constexpr double kLeastCriticalTemperature = 15.0;  // helium's and unknown ones
 constexpr double kBelowCritical = 0.98;
 constexpr std::int16_t kWater = 1;  // substance 1 of the database is water, by rule
 
+bool exists(const State& state, int i, int k) { return k >= 1 && k <= kProperties && i >= 1 && i <= state.PocSlozek; }
+
+// What is shown to the user stays out of the way of the evaluation: its texts would cost every call their stack frame.
+
 // Both rejections are tied to their message: where it is not due the evaluation goes on.
-bool rejects(State& state, int i, int k) {
+[[gnu::noinline]] bool rejects(State& state, int i, int k) {
     if (!engineMessageIsDue(state)) return false;
     if (k < 1 || k > kProperties) {
         showCounted(state, "FFce: Chyba č.vlastnosti(1-10): " + Str(k), Icon::Exclamation);
-        return true;
-    }
-    if (i < 1 || i > state.PocSlozek) {
+    } else {
         showCounted(state, "FFce: Chyba č.složky směsi (1-" + Str(state.PocSlozek) + ") : " + Str(i),
                     Icon::Exclamation);
-        return true;
     }
-    return false;
+    return true;
 }
 
 std::string substanceAndProperty(const State& state, int i, int k) {
@@ -38,13 +39,13 @@ std::string substanceAndProperty(const State& state, int i, int k) {
            std::string(propertyName(k));
 }
 
-void reportMissing(State& state, int i, int k) {
+[[gnu::noinline]] void reportMissing(State& state, int i, int k) {
     if (!engineMessageIsDue(state)) return;
     showCounted(state, "FFce: " + Str(i) + ".složka " + substanceAndProperty(state, i, k) + " neni v bázi!",
                 Icon::None);
 }
 
-double reportInvalidType(State& state, double T, int i, int k, int type) {
+[[gnu::noinline]] double reportInvalidType(State& state, double T, int i, int k, int type) {
     const std::string temperature = std::string(kLineBreak) + "Teplota(K)= " + Format(T, "#0.0");
     if (engineMessageIsDue(state)) {
         showCounted(state,
@@ -74,7 +75,7 @@ const TKorelace& blockOf(const TLatka& record, int k) {
     return record.Korelace[static_cast<std::size_t>(k - 1)];
 }
 
-double evaluate(State& state, double T, int i, int k) {
+double evaluate(State& state, const Temperature& T, int i, int k) {
     const TLatka& record = state.slots.Latka(i);
     const TKorelace& block = blockOf(record, k);
     if (block.Priznak == 0) [[unlikely]]
@@ -83,7 +84,8 @@ double evaluate(State& state, double T, int i, int k) {
         return reportInvalidType(state, T, i, k, block.Typ);
     const double Tx = workingTemperature(state, record, block, T, k);
     if (k == kROLW && state.slots.CisloLatky(i) == kWater) return waterDensity(Tx);
-    return evaluateEquation(block.Typ, block.A, Tx);
+    // A T that was not moved brings the logarithm that the components share.
+    return Tx == T ? evaluateEquation(block.Typ, block.A, T) : evaluateEquation(block.Typ, block.A, Tx);
 }
 
 // Runs the evaluation under the trap; only what is raised to the host on purpose passes it.
@@ -100,8 +102,8 @@ double trapped(State& state, const Body& body) {
 
 }  // namespace
 
-double FFce(State& state, double T, int i, int k) {
-    if (rejects(state, i, k)) return 0.0;
+double FFce(State& state, const Temperature& T, int i, int k) {
+    if (!exists(state, i, k) && rejects(state, i, k)) return 0.0;
     return trapped(state, [&] { return evaluate(state, T, i, k); });
 }
 
@@ -136,7 +138,7 @@ std::string_view propertyName(int k) {
 
 Variant Smes::FFce(const Variant& T, int i, int k) {
     checkedInt16(i), checkedInt16(k);
-    if (rejects(*state_, i, k)) return 0.0;
+    if (!exists(*state_, i, k) && rejects(*state_, i, k)) return 0.0;
     return trapped(*state_, [&] { return evaluate(*state_, T.toDouble(), i, k); });
 }
 

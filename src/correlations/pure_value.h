@@ -3,6 +3,7 @@
 
 #include <string_view>
 
+#include "correlations/temperature.h"
 #include "smes/state.h"
 
 namespace velor {
@@ -10,7 +11,7 @@ namespace velor {
 enum Property : int { kETAG = 1, kCPG, kALAG, kROLW, kETAL, kALAL, kCPL, kDHV, kTENS, kSIGMA };
 
 // See Smes::FFce.
-double FFce(State& state, double T, int i, int k);
+double FFce(State& state, const Temperature& T, int i, int k);
 
 std::string_view propertyName(int k);
 

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "correlations/pure_value.h"
@@ -121,7 +122,7 @@ class Flash {
         return found_.temperature;
     }
 
-    const FlashRecord& found() const { return found_; }
+    FlashRecord takeFound() { return std::move(found_); }
     const std::string& report() const { return report_; }
 
   private:
@@ -164,19 +165,10 @@ class Flash {
             state_.flashPressure = TENS(state_, T, feed()).value_or(0.0);
             TENS(state_, T + kTemperatureStep, feed());  // only for the messages that it may show
         }
-        std::vector<double> slopes;
-        found_.equilibrium.assign(n_, 0.0);
-        for (std::size_t i = 0; i < n_; ++i) {
-            const int component = static_cast<int>(i) + 1;
-            double& K = found_.equilibrium[i];
-            K = checked::divide(FFce(state_, T, component, kTENS), P_);
-            if (adiabatic_) {
-                const double warmer = checked::divide(FFce(state_, T + kTemperatureStep, component, kTENS), P_);
-                slopes.push_back((warmer - K) / kTemperatureStep);
-            }
-        }
+        // At a given temperature the K-values stay the same; they are computed again only for messages that are due.
+        if (adiabatic_ || first || messagesShown_) findEquilibrium(T);
         const MaterialBalance material =
-            splitFeed(V, found_.feed, found_.equilibrium, slopes, found_.liquid, found_.vapour);
+            splitFeed(V, found_.feed, found_.equilibrium, slopes_, found_.liquid, found_.vapour);
         found_.materialResidual = checked::finite(material.residual);
         if (!adiabatic_) return isothermalStep(material);
         normalise(found_.liquid);
@@ -184,6 +176,20 @@ class Flash {
         const EnergyBalance energy = energyBalance(V, T);
         found_.energyResidual = checked::finite(energy.residual);
         return adiabaticStep(material, energy);
+    }
+
+    void findEquilibrium(double T) {
+        const std::int16_t messagesBefore = state_.PocHlasek;
+        found_.equilibrium.resize(n_);
+        if (adiabatic_) slopes_.resize(n_);
+        for (std::size_t i = 0; i < n_; ++i) {
+            const int component = static_cast<int>(i) + 1;
+            const double K = found_.equilibrium[i] = checked::divide(FFce(state_, T, component, kTENS), P_);
+            if (!adiabatic_) continue;
+            const double warmer = checked::divide(FFce(state_, T + kTemperatureStep, component, kTENS), P_);
+            slopes_[i] = (warmer - K) / kTemperatureStep;
+        }
+        messagesShown_ = state_.PocHlasek != messagesBefore;
     }
 
     EnergyBalance energyBalance(double V, double T) {
@@ -211,6 +217,8 @@ class Flash {
     bool adiabatic_;
     std::size_t n_;
     double P_ = 0, T0_ = 0, H0_ = 0;
+    std::vector<double> slopes_;  // dK/dT, where the temperature is sought
+    bool messagesShown_ = false;  // by the last evaluation of the K-values
     FlashRecord found_;
     std::string report_;
 };
@@ -240,7 +248,7 @@ std::string Smes::FLASH(int mode, Variant& T, Variant& P, const Variant& Z) {
     flash.findBoilingRange(P.toDouble());
     if (interactive) T = askTemperature(state, flash.bubblePoint(), flash.dewPoint());
     const double end = flash.run(T.toDouble());
-    state.lastFlash = flash.found();
+    state.lastFlash = flash.takeFound();
     if (mode == kAdiabatic && state.lastFlash.outcome == FlashOutcome::Converged) T = end;
     return flash.report();
 }

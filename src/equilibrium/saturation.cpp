@@ -23,21 +23,21 @@ constexpr Method kTRB{Saturation::Dew, "TRB", "Výp.ros.bodu diverguje!"};
 double saturationTemperature(State& state, const Method& method, double P, const Composition& X) {
     const int n = state.PocSlozek;
     const ComponentValues x = takeFractions(state, X);
-    ComponentValues Tc;
+    ComponentValues Tc(n);
     for (int i = 1; i <= n; ++i) Tc[i] = state.slots.Latka(i).Tkr;
 
     std::int16_t messagesBefore = state.PocHlasek;
-    const auto vapourPressure = [&](std::size_t i, double T) {
+    const auto vapourPressure = [&](std::size_t i, const Temperature& T) {
         messagesBefore = state.PocHlasek;
         return FFce(state, T, static_cast<int>(i) + 1, kTENS);
     };
     // By a forward difference of 1 K. The method evaluates the pressure at T a second time for it, so whatever message
     // that shows comes twice; where none was shown the value is known.
-    const auto rise = [&](std::size_t i, double T, double Ps) {
+    const auto rise = [&](std::size_t i, const Temperature& T, const Temperature& warmer, double Ps) {
         const int component = static_cast<int>(i) + 1;
         const bool messagesShown = state.PocHlasek != messagesBefore;
-        const double warmer = FFce(state, T + 1.0, component, kTENS);
-        return warmer - (messagesShown ? FFce(state, T, component, kTENS) : Ps);
+        const double above = FFce(state, warmer, component, kTENS);
+        return above - (messagesShown ? FFce(state, T, component, kTENS) : Ps);
     };
     const SaturationPoint point = saturationPoint(method.kind, P, x.first(n), Tc.first(n), vapourPressure, rise,
                                                   [&] { return mixtureMessageIsDue(state); });

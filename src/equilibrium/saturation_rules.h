@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <span>
 
+#include "correlations/temperature.h"
 #include "runtime/checked.h"
 
 namespace velor {
@@ -16,8 +17,8 @@ struct SaturationPoint {
 
 enum class Saturation { Bubble, Dew };
 
-// vapourPressure(i, T) gives component i's vapour pressure in Pa (i from 0), rise(i, T, Ps) its rise from T
-// to T + 1 K. mayGiveUp() says whether the limit of steps holds; without it the iteration
+// vapourPressure(i, T) gives component i's vapour pressure Ps in Pa (i from 0), rise(i, T, warmer, Ps) its rise from T
+// to the warmer T + 1 K. mayGiveUp() says whether the limit of steps holds; without it the iteration
 // goes on until it converges. Errors: 11 a pressure, vapour pressure or slope of 0.
 template <class VapourPressure, class Rise, class MayGiveUp>
 SaturationPoint saturationPoint(Saturation kind, double P, std::span<const double> fractions,
@@ -31,12 +32,13 @@ SaturationPoint saturationPoint(Saturation kind, double P, std::span<const doubl
     for (int step = 1;; ++step) {
         for (const double Tc : criticalTemperatures)
             if (T >= Tc) T = kBelowCritical * Tc;
+        const Temperature at(T), warmer(T + 1.0);
         double f = -1.0, g = 0.0;
         for (std::size_t i = 0; i < fractions.size(); ++i) {
-            const double Ps = vapourPressure(i, T);
+            const double Ps = vapourPressure(i, at);
             const bool bubble = kind == Saturation::Bubble;
             const double other = bubble ? checked::divide(Ps * fractions[i], P) : checked::divide(P * fractions[i], Ps);
-            const double change = checked::divide(rise(i, T, Ps) * other, Ps);
+            const double change = checked::divide(rise(i, at, warmer, Ps) * other, Ps);
             g = bubble ? g + change : g - change;
             f += other;
         }

@@ -29,17 +29,27 @@ class Composition {
     std::span<const double> own_;
 };
 
-// One number for each component slot, counted from 1; zero at first.
+// One number for each of a count of components (at most 20), counted from 1; zero at first. Outside them error 9.
 class ComponentValues {
   public:
-    double& operator[](int i) { return values_[ComponentSlots::index(i)]; }
+    explicit ComponentValues(int count = ComponentSlots::kCount)
+        : count_(std::clamp(count, 0, ComponentSlots::kCount)) {
+        std::fill_n(values_.begin(), count_, 0.0);  // only these: clearing all 20 costs more than a rule
+    }
+
+    double& operator[](int i) {
+        if (i < 1 || i > count_) [[unlikely]]
+            checked::raise(RunTimeError::kSubscript);
+        return values_[static_cast<std::size_t>(i - 1)];
+    }
     std::span<const double> first(int n) const {
-        if (n > ComponentSlots::kCount) checked::raise(RunTimeError::kSubscript);
+        if (n > count_) checked::raise(RunTimeError::kSubscript);
         return std::span(values_).first(static_cast<std::size_t>(std::max(n, 0)));
     }
 
   private:
-    std::array<double, ComponentSlots::kCount> values_{};
+    int count_;
+    std::array<double, ComponentSlots::kCount> values_;
 };
 
 // Reads fraction i and keeps it as the last call's composition.
@@ -50,7 +60,7 @@ inline double takeFraction(State& state, const Composition& X, int i) {
 }
 
 inline ComponentValues takeFractions(State& state, const Composition& X) {
-    ComponentValues x;
+    ComponentValues x(state.PocSlozek);
     for (int i = 1; i <= state.PocSlozek; ++i) x[i] = takeFraction(state, X, i);
     return x;
 }

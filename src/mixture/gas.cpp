@@ -35,9 +35,9 @@ std::span<const PairFactor> pairFactors(State& state) {
     return state.preparedGasMixing->pairs;
 }
 
-double viscosity(State& state, double T, const Composition& X) {
+double viscosity(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
-    ComponentValues x, M, eta;
+    ComponentValues x(n), M(n), eta(n);
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         M[i] = state.slots.Latka(i).Mv;
@@ -46,19 +46,19 @@ double viscosity(State& state, double T, const Composition& X) {
     return gasViscosity(x.first(n), M.first(n), eta.first(n));
 }
 
-double conductivity(State& state, double T, const Composition& X) {
+double conductivity(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
     if (n == 1) return FFce(state, T, 1, kALAG);
     const ComponentValues x = takeFractions(state, X);
-    ComponentValues eta, lambda;
+    ComponentValues eta(n), lambda(n);
     for (int i = 1; i <= n; ++i) eta[i] = FFce(state, T, i, kETAG);
     for (int i = 1; i <= n; ++i) lambda[i] = FFce(state, T, i, kALAG);
     return gasConductivity(x.first(n), pairFactors(state), eta.first(n), lambda.first(n));
 }
 
-double heatCapacity(State& state, double T, const Composition& X) {
+double heatCapacity(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
-    ComponentValues x, Cp;
+    ComponentValues x(n), Cp(n);
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         Cp[i] = FFce(state, T, i, kCPG);

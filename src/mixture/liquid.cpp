@@ -19,10 +19,10 @@ constexpr double kLeastConductivity = 1e-06;
 
 double fourthPower(double value) { return value * value * value * value; }
 
-double liquidDensity(State& state, double T, const Composition& X) {
+double liquidDensity(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
     if (n == 1) return FFce(state, T, 1, kROLW);
-    ComponentValues x = takeFractions(state, X), Vc, Tc, molarVolume;
+    ComponentValues x = takeFractions(state, X), Vc(n), Tc(n), molarVolume(n);
     for (int i = 1; i <= n; ++i) {
         Vc[i] = state.slots.Latka(i).Vkr;
         Tc[i] = state.slots.Latka(i).Tkr;
@@ -31,18 +31,19 @@ double liquidDensity(State& state, double T, const Composition& X) {
     const double Tr = checked::divide(T, volumeMeanTemperature(x.first(n), Vc.first(n), Tc.first(n)));
     for (int i = 1; i <= n; ++i)
         if (x[i] > kTrace) molarVolume[i] = checked::divide(state.slots.Latka(i).Mv, FFce(state, Tr * Tc[i], i, kROLW));
-    return checked::divide(VSM(state, X).value_or(0.0), moleMean(x.first(n), molarVolume.first(n)));
+    const double M = VSM(state, Composition(x.first(n))).value_or(0.0);
+    return checked::divide(M, moleMean(x.first(n), molarVolume.first(n)));
 }
 
-std::optional<double> ROLW(State& state, double T, const Composition& X) {
+std::optional<double> ROLW(State& state, const Temperature& T, const Composition& X) {
     return trapped(
-        state, [&] { return titleAtTemperature("ROLW", T); }, [&] { return liquidDensity(state, T, X); });
+        state, [&] { return titleAtTemperature("ROLW", double{T}); }, [&] { return liquidDensity(state, T, X); });
 }
 
-double liquidViscosity(State& state, double T, const Composition& X) {
+double liquidViscosity(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
     if (n == 1) return FFce(state, T, 1, kETAL);
-    ComponentValues x, logarithm;
+    ComponentValues x(n), logarithm(n);
     double q = 1.0;  // molar kinematic viscosity
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
@@ -53,18 +54,19 @@ double liquidViscosity(State& state, double T, const Composition& X) {
         logarithm[i] = checked::naturalLogarithm(q);  // a trace takes the q of the component before it, as built
     }
     const double mean = checked::exponential(moleMean(x.first(n), logarithm.first(n)));
-    const double density = ROLW(state, T, X).value_or(0.0);
-    return checked::divide(mean * density, VSM(state, X).value_or(0.0));
+    const Composition taken(x.first(n));
+    const double density = ROLW(state, T, taken).value_or(0.0);
+    return checked::divide(mean * density, VSM(state, taken).value_or(0.0));
 }
 
-std::optional<double> ETAL(State& state, double T, const Composition& X) {
+std::optional<double> ETAL(State& state, const Temperature& T, const Composition& X) {
     return trapped(
-        state, [&] { return titleAtTemperature("ETAL", T); }, [&] { return liquidViscosity(state, T, X); });
+        state, [&] { return titleAtTemperature("ETAL", double{T}); }, [&] { return liquidViscosity(state, T, X); });
 }
 
-double liquidConductivity(State& state, double T, const Composition& X) {
+double liquidConductivity(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
-    ComponentValues x, M, lambda;
+    ComponentValues x(n), M(n), lambda(n);
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         M[i] = state.slots.Latka(i).Mv;
@@ -78,9 +80,9 @@ std::optional<double> ALAL(State& state, double T, const Composition& X) {
         state, [&] { return titleAtTemperature("ALAL", T); }, [&] { return liquidConductivity(state, T, X); });
 }
 
-double CPL(State& state, double T, const Composition& X) {
+double CPL(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
-    ComponentValues x, heatCapacity;
+    ComponentValues x(n), heatCapacity(n);
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         heatCapacity[i] = FFce(state, T, i, kCPL);
@@ -88,9 +90,9 @@ double CPL(State& state, double T, const Composition& X) {
     return moleMean(x.first(n), heatCapacity.first(n));
 }
 
-double DHV(State& state, double T, const Composition& X) {
+double DHV(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
-    ComponentValues x, heat;
+    ComponentValues x(n), heat(n);
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         if (x[i] > kTrace && T < state.slots.Latka(i).Tkr) heat[i] = FFce(state, T, i, kDHV);
@@ -100,7 +102,7 @@ double DHV(State& state, double T, const Composition& X) {
 
 double SL(State& state, double T, const Composition& X) {
     const int n = state.PocSlozek;
-    ComponentValues x, entropy;
+    ComponentValues x(n), entropy(n);
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         const TLatka& record = state.slots.Latka(i);
@@ -116,10 +118,10 @@ std::optional<double> trappedSL(State& state, double T, const Composition& X) {
         state, [&] { return titleAtTemperature("SL", T); }, [&] { return SL(state, T, X); });
 }
 
-double surfaceTension(State& state, double T, const Composition& X) {
+double surfaceTension(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
     if (n == 1) return FFce(state, T, 1, kSIGMA);
-    ComponentValues x, parachor;
+    ComponentValues x(n), parachor(n);
     double density = 1.0, root = 0.0;
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
@@ -132,9 +134,9 @@ double surfaceTension(State& state, double T, const Composition& X) {
     return fourthPower(moleMean(x.first(n), parachor.first(n)) * ROLW(state, T, X).value_or(0.0));
 }
 
-double vapourPressure(State& state, double T, const Composition& X) {
+double vapourPressure(State& state, const Temperature& T, const Composition& X) {
     const int n = state.PocSlozek;
-    ComponentValues x, pressure;
+    ComponentValues x(n), pressure(n);
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         if (x[i] > kTrace) pressure[i] = FFce(state, T, i, kTENS);
@@ -162,7 +164,7 @@ std::optional<double> TENS(State& state, double T, const Composition& X) {
 
 double HL(State& state, double T, const Composition& X) {
     const int n = state.PocSlozek;
-    ComponentValues x, enthalpy;
+    ComponentValues x(n), enthalpy(n);
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         const TLatka& record = state.slots.Latka(i);

@@ -13,10 +13,12 @@ double moleMean(std::span<const double> x, std::span<const double> y) {
 }
 
 double volumeMeanTemperature(std::span<const double> x, std::span<const double> Vc, std::span<const double> Tc) {
-    const double volume = moleMean(x, Vc);
-    double temperature = 0.0;
-    for (std::size_t i = 0; i < x.size(); ++i) temperature += checked::divide(x[i] * Vc[i], volume) * Tc[i];
-    return temperature;
+    double volume = 0.0, weighted = 0.0;
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        volume += x[i] * Vc[i];
+        weighted += x[i] * Vc[i] * Tc[i];
+    }
+    return checked::divide(weighted, volume);
 }
 
 double reciprocalSquareConductivity(double M, std::span<const double> x, std::span<const double> molarMasses,

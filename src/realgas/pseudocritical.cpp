@@ -1,6 +1,7 @@
 #include "realgas/pseudocritical.h"
 
 #include <cmath>
+#include <optional>
 
 #include "mixture/composition_rules.h"
 #include "mixture/fractions.h"
@@ -42,17 +43,17 @@ bool takeNormalised(State& state, const Composition& X, ComponentValues& x) {
     return true;
 }
 
-// Fills the five members; false, and the members 0, where there is nothing to compute.
-bool computePseudocritical(State& state, const Composition& X) {
+// Fills the five members; nothing, and the members 0, where there is nothing to compute.
+std::optional<Pseudocritical> computePseudocritical(State& state, const Composition& X) {
     const std::int16_t zero = 0;
     setMembers(state, zero, zero, zero, zero, zero);
     if (state.PocSlozek <= 0 && mixtureMessageIsDue(state)) {
         showCounted(state, "Směs není definována!", Icon::Exclamation);
-        return false;
+        return std::nullopt;
     }
-    ComponentValues x, M, Tc, Pc, Vc;
-    if (!takeNormalised(state, X, x)) return false;
     const int n = state.PocSlozek;
+    ComponentValues x(n), M(n), Tc(n), Pc(n), Vc(n);
+    if (!takeNormalised(state, X, x)) return std::nullopt;
     for (int i = 1; i <= n; ++i) {
         const TLatka& record = state.slots.Latka(i);
         M[i] = record.Mv;
@@ -66,28 +67,20 @@ bool computePseudocritical(State& state, const Composition& X) {
         checked::finite(value);
     setMembers(state, mixture.temperature, mixture.pressure, mixture.volume, mixture.compressibility,
                mixture.molarMass);
-    return true;
+    return mixture;
 }
 
 }  // namespace
 
 Pseudocritical PSEUD(State& state, const Composition& X) {
-    Pseudocritical mixture;
-    if (computePseudocritical(state, X)) {
-        mixture.temperature = state.TKRITsm.toDouble();
-        mixture.pressure = state.PKRITsm.toDouble();
-        mixture.volume = state.VKRITsm.toDouble();
-        mixture.compressibility = state.ZKRITsm.toDouble();
-        mixture.molarMass = state.MSm.toDouble();
-    }
-    return mixture;
+    return computePseudocritical(state, X).value_or(Pseudocritical{});
 }
 
 Variant Smes::PSEUD(const Variant& X, const std::string& Sel) {
     State& state = *state_;
     loadComponents(state);
     const std::string choice = upperCase(Sel);
-    const bool computed = computePseudocritical(state, Composition(X));
+    const bool computed = computePseudocritical(state, Composition(X)).has_value();
     if (computed && choice == "T") return state.TKRITsm;
     if (computed && choice == "P") return state.PKRITsm;
     if (computed && choice == "V") return state.VKRITsm;

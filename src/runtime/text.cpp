@@ -8,8 +8,7 @@ constexpr char32_t kReplacement = 0xFFFD;
 
 bool isContinuation(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
 
-char32_t upperCase(char32_t c) {
-    if (c >= U'a' && c <= U'z') return c - 32;
+char32_t upperCase(char32_t c) {                             // beyond ASCII
     if (c >= 0xE0 && c <= 0xFE && c != 0xF7) return c - 32;  // Latin-1, but the division sign
     if (c == 0xFF) return 0x178;                             // y with diaeresis
     const bool oddIsLower = (c >= 0x100 && c <= 0x137 && c != 0x131) || (c >= 0x14A && c <= 0x177);
@@ -78,7 +77,14 @@ std::size_t characterCount(std::string_view text) {
 std::string upperCase(std::string_view text) {
     std::string upper;
     upper.reserve(text.size());
-    while (!text.empty()) appendCodePoint(upper, upperCase(takeCodePoint(text)));
+    while (!text.empty()) {
+        if (const char c = text.front(); static_cast<unsigned char>(c) < 0x80) {
+            upper += c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c;
+            text.remove_prefix(1);
+        } else {
+            appendCodePoint(upper, upperCase(takeCodePoint(text)));
+        }
+    }
     return upper;
 }
 
