@@ -3,6 +3,8 @@ ask() {
     printf '\n\033[1m$ velor %s\033[0m\n' "$*"
     "$velor" "$@"
 }
-ask latka ethanol
 ask ukazka ethanol -T 298.15
-ask vlastnost TENS --latky voda,ethanol,benzen -T 300:370:10
+ask vlastnost ROLW --latky voda,ethanol --slozeni 0.4,0.6 -T 300:360:20
+ask rovnovaha --latky benzen,toluen --body 6
+ask prehled --latky benzen,toluen --slozeni 0.5,0.5 -T 350
+ask flash --latky pentan,hexan,heptan --slozeni 0.3,0.3,0.4 -T 340

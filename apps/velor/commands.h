@@ -10,10 +10,30 @@ namespace velor::app {
 // latka: names, constants and correlations of a substance.
 Report answer(const SubstanceRequest& request, const Database& database, UserInterface& userInterface);
 
-// vlastnost: one property of several substances at several temperatures.
+// vlastnost: one property of several substances, or of a mixture, at several temperatures.
 Report answer(const PropertyRequest& request, const Database& database, UserInterface& userInterface);
+Report answer(const MixturePropertyRequest& request, const Database& database, UserInterface& userInterface);
+
+// vlastnost --seznam: the properties of mixtures; needs no database.
+Report propertyList();
 
 // ukazka: constants and all ten properties of a substance at one temperature.
 Report answer(const TourRequest& request, const Database& database, UserInterface& userInterface);
+
+// smes: composition, molar mass, pseudocritical values, bubble and dew point of a mixture.
+Report answer(const MixtureRequest& request, const Database& database, UserInterface& userInterface);
+
+// prehled: all properties of a mixture at one state.
+Report answer(const OverviewRequest& request, const Database& database, UserInterface& userInterface);
+
+// rovnovaha: boiling temperatures of a binary mixture against its composition, as a table or a picture.
+Report answer(const EquilibriumRequest& request, const Database& database, UserInterface& userInterface);
+
+// graf: a picture of one property against temperature.
+Report answer(const GraphRequest& request, const Database& database, UserInterface& userInterface);
+
+// flash: isothermal or adiabatic flash of a mixture; the second asks the user for its data.
+Report answer(const FlashRequest& request, const Database& database, UserInterface& userInterface);
+Report answer(const AskingFlashRequest& request, const Database& database, UserInterface& userInterface);
 
 }  // namespace velor::app

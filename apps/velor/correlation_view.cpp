@@ -19,13 +19,11 @@ const std::vector<Column> kEquationColumns{
 
 void append(Row& row, const Row& cells) { row.insert(row.end(), cells.begin(), cells.end()); }
 
-Cell text(std::string_view text) { return {std::string(text), {}}; }
-
 Row equationCells(const Smes& smes, int slot, int property) {
     if (!isGiven(smes, slot, property)) return Row(kEquationColumns.size());
     const auto item = [&](int j) { return static_cast<int>(smes.VLRConst(slot, property, j)); };
     const std::string equation = Smes::Vztah(item(kTyp));
-    return {{item(kTmin), {}}, {item(kTmax), {}}, {item(kTyp), {}}, text(trimBlanks(equation))};
+    return {{item(kTmin), {}}, {item(kTmax), {}}, {item(kTyp), {}}, textCell(trimBlanks(equation))};
 }
 
 Row coefficientCells(const Smes& smes, int slot, int property) {
@@ -65,7 +63,7 @@ Section correlationsSection(const Smes& smes, const Substance& substance, int sl
     }
     for (const PureProperty& property : pureProperties()) {
         Row row = propertyCells(property);
-        row.push_back(text(property.unit));
+        row.push_back(textCell(property.unit));
         append(row, equationCells(smes, slot, property.number));
         append(row, coefficientCells(smes, slot, property.number));
         table.rows.push_back(std::move(row));
@@ -81,9 +79,9 @@ Section valuesSection(Smes& smes, double T, const Substance& substance, int slot
     table.columns = columns(table.columns, kEquationColumns);
     StandingNotes notes;
     for (const PureProperty& property : pureProperties()) {
-        const PureValue value = pureValue(smes, T, slot, property);
+        const PropertyValue value = pureValue(smes, T, slot, property);
         Row row = propertyCells(property);
-        append(row, {notes.cell(value), text(property.unit), text(standingWord(value.standing))});
+        append(row, {notes.cell(value), textCell(property.unit), textCell(standingWord(value.standing))});
         append(row, equationCells(smes, slot, property.number));
         table.rows.push_back(std::move(row));
     }
@@ -97,7 +95,7 @@ Section rangesSection(const Smes& smes, const SubstanceList& substances, int pro
     table.columns = columns({{"cislo", "č.", ""}, {"nazev", "látka", ""}, {"vzorec", "vzorec", ""}}, kEquationColumns);
     int slot = 0;
     for (const Substance& substance : substances) {
-        Row row{{substance.number, {}}, text(substance.name), text(substance.formula)};
+        Row row{{substance.number, {}}, textCell(substance.name), textCell(substance.formula)};
         append(row, equationCells(smes, ++slot, property));
         table.rows.push_back(std::move(row));
     }

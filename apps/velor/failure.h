@@ -6,7 +6,7 @@
 
 namespace velor::app {
 
-enum class ExitCode { Done = 0, NothingComputed = 1, WrongUse = 2, NoDatabase = 3 };
+enum class ExitCode { Done = 0, NothingComputed = 1, WrongUse = 2, NoDatabase = 3, TimedOut = 4 };
 
 class Failure : public std::runtime_error {
   public:

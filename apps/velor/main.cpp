@@ -9,16 +9,25 @@
 #include "commands.h"
 #include "failure.h"
 #include "run_time_error_text.h"
+#include "time_limit.h"
 
 namespace velor::app {
 
 namespace {
 
+// The list of properties is known without a database.
+Report reportOn(const PropertyListRequest&, const Request&, UserInterface&) { return propertyList(); }
+
+template <class Question>
+Report reportOn(const Question& question, const Request& request, UserInterface& userInterface) {
+    return answer(question, openDatabase(request.database, userInterface), userInterface);
+}
+
 std::string answerText(const Request& request) {
-    StreamUserInterface userInterface(std::cin, std::cerr);
-    const Database database = openDatabase(request.database, userInterface);
-    const auto report =
-        std::visit([&](const auto& question) { return answer(question, database, userInterface); }, request.question);
+    TimeLimit limit(request.timeLimit);
+    PatientUserInterface userInterface(std::cin, std::cerr, limit);
+    const Report report =
+        std::visit([&](const auto& question) { return reportOn(question, request, userInterface); }, request.question);
     return print(report, request.form);
 }
 

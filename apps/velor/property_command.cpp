@@ -10,7 +10,7 @@ namespace velor::app {
 namespace {
 
 // Values by temperature, then by substance.
-using Values = std::vector<std::vector<PureValue>>;
+using Values = std::vector<std::vector<PropertyValue>>;
 
 Values compute(Smes& smes, const std::vector<double>& temperatures, int substances, const PureProperty& property) {
     Values values;
@@ -24,7 +24,7 @@ Values compute(Smes& smes, const std::vector<double>& temperatures, int substanc
 // Where not a single value came out, there is nothing to print but the reasons.
 void requireAnyValue(const Values& values, const SubstanceList& substances, const PureProperty& property) {
     for (const auto& row : values)
-        for (const PureValue& value : row)
+        for (const PropertyValue& value : row)
             if (value.isComputed()) return;
     std::string reasons = "Vlastnost " + std::string(property.code) + " nebyla vypočtena.";
     for (std::size_t i = 0; i < substances.size(); ++i)
@@ -54,7 +54,7 @@ Section valuesSection(const Values& values, const PropertyRequest& request, cons
     for (std::size_t i = 0; i < values.size(); ++i) {
         auto& row = table.rows.emplace_back();
         row.push_back({request.temperatures[i], {}});
-        for (const PureValue& value : values[i]) {
+        for (const PropertyValue& value : values[i]) {
             row.push_back(notes.cell(value));
             row.push_back({std::string(standingWord(value.standing)), {}});
         }
@@ -66,7 +66,7 @@ Section valuesSection(const Values& values, const PropertyRequest& request, cons
 }  // namespace
 
 Report answer(const PropertyRequest& request, const Database& database, UserInterface& userInterface) {
-    const PureProperty& property = pureProperties()[static_cast<std::size_t>(request.property - 1)];
+    const PureProperty& property = *request.property;
     const SubstanceList substances = findSubstances(database.substances, request.substances);
     Smes smes(userInterface);
     loadInto(smes, database, substances);

@@ -1,10 +1,9 @@
 #include "pure_property.h"
 
+#include <algorithm>
 #include <array>
-#include <string>
 
 #include "correlations/equations.h"
-#include "failure.h"
 #include "runtime/text.h"
 
 namespace velor::app {
@@ -44,18 +43,16 @@ Standing standingAt(const Smes& smes, double T, int slot, const PureProperty& pr
 
 std::span<const PureProperty> pureProperties() { return kProperties; }
 
-const PureProperty& findPureProperty(std::string_view code) {
-    for (const PureProperty& property : kProperties)
-        if (equalIgnoringCase(property.code, trimBlanks(code))) return property;
-    std::string text = "Neznámá vlastnost „" + std::string(code) + "“. Vlastnosti látek jsou:";
-    for (const PureProperty& property : kProperties)
-        text.append("\n  ").append(property.code).append("  ").append(property.caption);
-    throw Failure(ExitCode::WrongUse, text);
+const PureProperty* findPureProperty(std::string_view code) {
+    const auto found = std::find_if(kProperties.begin(), kProperties.end(), [&](const PureProperty& property) {
+        return equalIgnoringCase(property.code, code);
+    });
+    return found == kProperties.end() ? nullptr : &*found;
 }
 
 bool isGiven(const Smes& smes, int slot, int property) { return smes.VLRConst(slot, property, kPriznak) != 0; }
 
-PureValue pureValue(Smes& smes, double T, int slot, const PureProperty& property) {
+PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& property) {
     if (!isGiven(smes, slot, property.number)) return {Standing::NotGiven};
     try {
         const double value = smes.FFce(T, slot, property.number).toDouble();
@@ -64,66 +61,6 @@ PureValue pureValue(Smes& smes, double T, int slot, const PureProperty& property
     } catch (const RunTimeError&) {
         return {Standing::Failed};
     }
-}
-
-std::string_view standingWord(Standing standing) {
-    switch (standing) {
-        case Standing::InRange:
-            return "v rozsahu";
-        case Standing::Extrapolated:
-            return "extrapolováno";
-        case Standing::AtBound:
-            return "na mezi";
-        case Standing::BelowCritical:
-            return "0.98 Tkr";
-        case Standing::NotGiven:
-            return "nedáno";
-        case Standing::BeyondReference:
-            return "bez hodnoty";
-        case Standing::Failed:
-            break;
-    }
-    return "chyba";
-}
-
-std::string_view standingMark(Standing standing) {
-    switch (standing) {
-        case Standing::Extrapolated:
-            return "*";
-        case Standing::AtBound:
-            return "=";
-        case Standing::BelowCritical:
-            return "k";
-        case Standing::NotGiven:
-            return "n";
-        case Standing::BeyondReference:
-            return "r";
-        case Standing::Failed:
-            return "!";
-        case Standing::InRange:
-            break;
-    }
-    return "";
-}
-
-std::string_view standingNote(Standing standing) {
-    switch (standing) {
-        case Standing::Extrapolated:
-            return "Teplota je mimo rozsah platnosti korelace, hodnota je extrapolovaná.";
-        case Standing::AtBound:
-            return "Teplota je mimo rozsah platnosti korelace, hodnota platí pro jeho nejbližší mez.";
-        case Standing::BelowCritical:
-            return "Teplota je nad kritickou, hodnota je vypočtena při 0.98 Tkr.";
-        case Standing::NotGiven:
-            return "Vlastnost není pro látku v bázi dána.";
-        case Standing::BeyondReference:
-            return "Rovnice nemá při této teplotě hodnotu (nad vztažnou teplotou).";
-        case Standing::Failed:
-            return "Při výpočtu nastala chyba, rovnice nemá při této teplotě hodnotu.";
-        case Standing::InRange:
-            break;
-    }
-    return "";
 }
 
 }  // namespace velor::app

@@ -3,6 +3,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -24,6 +25,8 @@ struct Cell {
     Value value;
     std::string mark;  // a sign behind the number that a note of the section explains; for people only
 };
+
+inline Cell textCell(std::string_view text) { return {std::string(text), {}}; }
 
 struct Column {
     enum class Audience { Everyone, Machines };
@@ -51,7 +54,8 @@ struct Section {
 
 struct Report {
     std::vector<Section> sections;
-    std::string csvTable;  // key of the section that CSV consists of; empty: all values, one a line
+    std::string csvTable = {};  // key of the section that CSV consists of; empty: all values, one a line
+    std::string text = {};      // what people read instead of the sections, where it is not empty
 };
 
 }  // namespace velor::app

@@ -6,7 +6,9 @@
 #include <variant>
 #include <vector>
 
+#include "mixture_property.h"
 #include "printer.h"
+#include "pure_property.h"
 
 namespace velor::app {
 
@@ -15,7 +17,7 @@ struct SubstanceRequest {
 };
 
 struct PropertyRequest {
-    int property = 0;  // 1..10
+    const PureProperty* property = nullptr;
     std::string substances;
     std::vector<double> temperatures;
     bool clamp = false;  // temperatures into the validity ranges
@@ -26,10 +28,66 @@ struct TourRequest {
     double temperature = 0;
 };
 
+struct PropertyListRequest {};
+
+struct CompositionRequest {
+    std::string substances;
+    std::optional<std::vector<double>> fractions;  // a single substance needs none
+    bool byMass = false;
+    bool normalise = false;  // where the sum is not 1
+};
+
+struct MixturePropertyRequest {
+    const MixtureProperty* property = nullptr;
+    CompositionRequest composition;
+    std::vector<double> temperatures;  // none where the property needs none
+    std::optional<double> pressure;
+    bool clamp = false;
+};
+
+struct MixtureRequest {
+    CompositionRequest composition;
+    double pressure = 0;
+};
+
+struct OverviewRequest {
+    CompositionRequest composition;
+    double temperature = 0;
+    double pressure = 0;
+    bool clamp = false;
+};
+
+struct EquilibriumRequest {
+    std::string substances;
+    double pressure = 0;
+    int points = 0;
+    std::optional<std::string> pictureFile;
+};
+
+struct GraphRequest {
+    std::variant<PropertyRequest, MixturePropertyRequest> curves;
+    std::string pictureFile;
+};
+
+struct FlashRequest {
+    CompositionRequest composition;
+    bool adiabatic = false;
+    double temperature = 0;
+    double pressure = 0;
+};
+
+// The library asks for everything but the substances.
+struct AskingFlashRequest {
+    std::string substances;
+};
+
 struct Request {
     std::optional<std::string> database;  // instead of the one that VELOR.CFG names
     OutputForm form = OutputForm::Text;
-    std::variant<SubstanceRequest, PropertyRequest, TourRequest> question;
+    double timeLimit = 0;  // s
+    std::variant<SubstanceRequest, PropertyRequest, TourRequest, PropertyListRequest, MixturePropertyRequest,
+                 MixtureRequest, OverviewRequest, EquilibriumRequest, GraphRequest, FlashRequest, AskingFlashRequest>
+        question;
 };
 
 }  // namespace velor::app

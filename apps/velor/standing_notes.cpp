@@ -2,7 +2,7 @@
 
 namespace velor::app {
 
-Cell StandingNotes::cell(const PureValue& value) {
+Cell StandingNotes::cell(const PropertyValue& value) {
     seen_[static_cast<std::size_t>(value.standing)] = true;
     Cell cell;
     if (value.isComputed()) cell.value = value.value;

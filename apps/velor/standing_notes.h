@@ -5,15 +5,15 @@
 #include <string>
 #include <vector>
 
-#include "pure_property.h"
 #include "report.h"
+#include "standing.h"
 
 namespace velor::app {
 
 class StandingNotes {
   public:
     // The cell of a value, with its sign.
-    Cell cell(const PureValue& value);
+    Cell cell(const PropertyValue& value);
     // One note for each sign given out.
     std::vector<std::string> notes() const;
 

@@ -1,7 +1,6 @@
 #include "temperatures.h"
 
 #include <cmath>
-#include <optional>
 #include <string>
 
 #include "failure.h"
@@ -9,7 +8,7 @@
 #include "number_text.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "velor/run_time_error.h"
+#include "typed_number.h"
 
 namespace velor::app {
 
@@ -19,17 +18,7 @@ constexpr double kMostPoints = 10000;
 
 [[noreturn]] void refuse(const std::string& text) { throw Failure(ExitCode::WrongUse, text); }
 
-double number(std::string_view text) {
-    if (trimBlanks(text).empty()) refuse("V zápisu teplot chybí číslo.");
-    std::optional<double> value;
-    try {
-        value = parseWholeNumber(text);
-    } catch (const RunTimeError&) {
-        refuse("Číslo „" + std::string(text) + "“ je příliš velké.");
-    }
-    if (!value) refuse("„" + std::string(text) + "“ není číslo (zapište např. 298.15).");
-    return *value;
-}
+double number(std::string_view text) { return typedNumber(text, "V zápisu teplot"); }
 
 double temperature(std::string_view text) {
     const double T = number(text);

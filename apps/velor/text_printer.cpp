@@ -119,6 +119,7 @@ void appendSection(std::string& text, const Section& section) {
 }  // namespace
 
 std::string asText(const Report& report) {
+    if (!report.text.empty()) return report.text;
     std::string text;
     for (const Section& section : report.sections)
         if (!section.title.empty()) appendSection(text, section);

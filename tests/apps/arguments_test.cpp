@@ -6,7 +6,8 @@ namespace velor::test {
 namespace {
 
 TEST(ArgumentsTest, helpIsCzech) {
-    const std::vector<Words> commands{{}, {"latka"}, {"vlastnost"}, {"ukazka"}};
+    const std::vector<Words> commands{{},          {"latka"},     {"vlastnost"}, {"ukazka"}, {"smes"},
+                                      {"prehled"}, {"rovnovaha"}, {"flash"},     {"graf"}};
     for (Words words : commands) {
         words.push_back("--help");
         const Outcome outcome = run(words);
@@ -37,6 +38,8 @@ TEST(ArgumentsTest, wrongUseIsSaidInCzech) {
         {{"latka", "1", "--csv", "--json"}, "buď --csv, nebo --json"},
         {{"--csv", "latka", "1", "--json"}, "buď --csv, nebo --json"},
         {{"latka", "1", "--baze"}, "Přepínač --baze nemá hodnotu."},
+        {{"vlastnost"}, "Chybí povinný údaj VLASTNOST."},
+        {{"smes"}, "Chybí povinný údaj --latky."},
         {{"vlastnost", "TENS", "-T", "300"}, "Chybí povinný údaj --latky."},
         {{"vlastnost", "TENS", "--latky", "1"}, "Chybí povinný údaj --teplota."},
         {{"vlastnost", "TENS", "--latky", "1", "-T", "300", "-T", "310"}, "Přepínač --teplota je zadán vícekrát."},

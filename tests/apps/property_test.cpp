@@ -133,12 +133,6 @@ TEST_F(PropertyTest, temperaturesThatAreNoneAreRefused) {
     for (const auto& [text, phrase] : cases) expectFailure(vlastnost("ETAG", "2", text), 2, phrase);
 }
 
-TEST_F(PropertyTest, anUnknownNameListsTheTen) {
-    const Outcome outcome = vlastnost("RHGW", "1", "300");
-    expectFailure(outcome, 2, "Neznámá vlastnost „RHGW“");
-    for (const char* line : {"ETAG  viskozita plynu", "SIGMA  povrchové napětí"}) expectMentions(outcome.error, line);
-}
-
 TEST_F(PropertyTest, theTourShowsAllTen) {
     const auto values = database.run({"ukazka", "toluen", "-T", "300", "--json"}).json()["vlastnosti"];
     ASSERT_EQ(values.size(), 10U);

@@ -1,0 +1,67 @@
+#include "time_limit.h"
+
+#include <cstdlib>
+#include <iostream>
+
+#include "failure.h"
+#include "number_text.h"
+
+namespace velor::app {
+
+namespace {
+
+[[noreturn]] void giveUp(double seconds) {
+    std::cerr << "velor: Výpočet neskončil do " << roundedText(seconds)
+              << " s a byl přerušen. Limit lze změnit přepínačem --limit." << std::endl;
+    std::_Exit(static_cast<int>(ExitCode::TimedOut));  // the computation cannot be stopped in any other way
+}
+
+}  // namespace
+
+TimeLimit::TimeLimit(double seconds) : seconds_(seconds) {
+    set(false);
+    watcher_ = std::thread([this] { watch(); });
+}
+
+TimeLimit::~TimeLimit() {
+    {
+        const std::lock_guard lock(mutex_);
+        isOver_ = true;
+    }
+    changed_.notify_one();
+    watcher_.join();
+}
+
+void TimeLimit::set(bool isPaused) {
+    {
+        const std::lock_guard lock(mutex_);
+        isPaused_ = isPaused;
+        end_ = Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds_));
+    }
+    changed_.notify_one();
+}
+
+void TimeLimit::watch() {
+    std::unique_lock lock(mutex_);
+    while (!isOver_) {
+        if (isPaused_) {
+            changed_.wait(lock);
+        } else if (Clock::now() >= end_) {
+            giveUp(seconds_);
+        } else {
+            changed_.wait_until(lock, end_);
+        }
+    }
+}
+
+Answer PatientUserInterface::showMessage(const Message& message) {
+    const TimeLimit::Pause pause(limit_);
+    return StreamUserInterface::showMessage(message);
+}
+
+std::string PatientUserInterface::askText(const InputRequest& request) {
+    const TimeLimit::Pause pause(limit_);
+    return StreamUserInterface::askText(request);
+}
+
+}  // namespace velor::app
