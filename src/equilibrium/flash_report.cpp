@@ -16,7 +16,10 @@ constexpr double kKilopascal = 1000.0;
 void appendLine(std::string& report, const std::string& label, std::initializer_list<double> values,
                 const char* pattern) {
     report += label;
-    for (const double value : values) report += '\t' + Format(value, pattern);
+    for (const double value : values) {
+        report += '\t';
+        report += Format(value, pattern);
+    }
     report += "\r\n";
 }
 
@@ -24,6 +27,7 @@ void appendLine(std::string& report, const std::string& label, std::initializer_
 
 std::string flashReport(const FlashReport& conditions, const FlashRecord& result, std::span<const std::string> names) {
     std::string report;
+    report.reserve(400 + 60 * names.size());
     const auto celsius = [](double T) { return T - kZeroCelsius; };
     appendLine(report, "Poměr parní fáze k nástřiku: ", {result.vapourFraction}, "0.0000");
     appendLine(report, "Teplota poč., koncová (°C)   : ",
@@ -35,7 +39,8 @@ std::string flashReport(const FlashReport& conditions, const FlashRecord& result
     report += "Složka\t\t\t\t\t\t\tPára\tKapalina\tNástřik\r\n";
     for (std::size_t i = 0; i < names.size(); ++i)
         appendLine(report, names[i], {result.vapour[i], result.liquid[i], result.feed[i]}, "0.0000");
-    return report + "\r\n";
+    report += "\r\n";
+    return report;
 }
 
 }  // namespace velor

@@ -38,7 +38,11 @@ std::string decodeWindows1250(std::string_view bytes) {
     text.reserve(bytes.size());
     for (const char byte : bytes) {
         const auto code = static_cast<unsigned char>(byte);
-        appendCodePoint(text, code < 0x80 ? code : kUpperHalf[code - 0x80U]);
+        if (code < 0x80) {
+            text += byte;
+        } else {
+            appendCodePoint(text, kUpperHalf[code - 0x80U]);
+        }
     }
     return text;
 }
