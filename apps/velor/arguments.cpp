@@ -38,6 +38,7 @@ void describeProgram(CLI::App& program, Arguments& arguments) {
         "Nápověda k příkazu: velor PŘÍKAZ --help\n"
         "Návratový kód: 0 v pořádku, 1 nic nebylo vypočteno nebo nalezeno, 2 chybné zadání, 3 chybí databáze,\n"
         "4 překročen časový limit.");
+    addSubstanceListCommand(program, arguments);
     addSubstanceCommand(program, arguments);
     addPropertyCommand(program, arguments);
     addTourCommand(program, arguments);

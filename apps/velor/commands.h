@@ -2,10 +2,14 @@
 #pragma once
 
 #include "database.h"
+#include "mixture.h"
 #include "report.h"
 #include "requests.h"
 
 namespace velor::app {
+
+// seznam: the substances of the database.
+Report answer(const SubstanceListRequest& request, const Database& database, UserInterface& userInterface);
 
 // latka: names, constants and correlations of a substance.
 Report answer(const SubstanceRequest& request, const Database& database, UserInterface& userInterface);
@@ -22,6 +26,8 @@ Report answer(const TourRequest& request, const Database& database, UserInterfac
 
 // smes: composition, molar mass, pseudocritical values, bubble and dew point of a mixture.
 Report answer(const MixtureRequest& request, const Database& database, UserInterface& userInterface);
+// The same of a mixture that is known already, at P pascals.
+Report describeMixture(const Mixture& mixture, double P);
 
 // prehled: all properties of a mixture at one state.
 Report answer(const OverviewRequest& request, const Database& database, UserInterface& userInterface);
@@ -35,5 +41,7 @@ Report answer(const GraphRequest& request, const Database& database, UserInterfa
 // flash: isothermal or adiabatic flash of a mixture; the second asks the user for its data.
 Report answer(const FlashRequest& request, const Database& database, UserInterface& userInterface);
 Report answer(const AskingFlashRequest& request, const Database& database, UserInterface& userInterface);
+// The second for a known mixture: its composition is suggested.
+Report askedFlash(const Mixture& mixture, UserInterface& userInterface);
 
 }  // namespace velor::app

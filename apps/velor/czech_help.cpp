@@ -52,7 +52,10 @@ class CzechFormatter : public CLI::Formatter {
         return text;
     }
 
-    std::string make_option_usage(const CLI::Option* option) const override { return make_option_name(option, true); }
+    std::string make_option_usage(const CLI::Option* option) const override {
+        const std::string name = make_option_name(option, true);
+        return option->get_required() ? name : "[" + name + "]";
+    }
 };
 
 std::string_view behind(std::string_view text, std::string_view mark) {

@@ -1,5 +1,6 @@
 #include "database.h"
 
+#include <filesystem>
 #include <vector>
 
 #include "failure.h"
@@ -36,6 +37,22 @@ SubstanceList substancesOf(const std::string& path) {
     }
 }
 
+std::filesystem::path systemPath(const std::string& path) { return {std::u8string(path.begin(), path.end())}; }
+
+std::string utf8Path(const std::filesystem::path& path) {
+    const std::u8string text = path.u8string();
+    return {text.begin(), text.end()};
+}
+
+// The library looks for the file's name in its path and complains of a path that is hardly more than the name.
+std::string absolutePath(const std::string& path) { return utf8Path(std::filesystem::absolute(systemPath(path))); }
+
+std::string fileNameOf(const std::string& path) { return utf8Path(systemPath(path).filename()); }
+
+bool isRefusedAccess(const RunTimeError& error) {
+    return error.number() == RunTimeError::kPermissionDenied || error.number() == RunTimeError::kPathFileAccess;
+}
+
 }  // namespace
 
 Database openDatabase(const std::optional<std::string>& chosenPath, UserInterface& userInterface) {
@@ -45,6 +62,17 @@ Database openDatabase(const std::optional<std::string>& chosenPath, UserInterfac
     if (database.substances.empty())
         throw Failure(ExitCode::NoDatabase, "Soubor „" + database.path + "“ není databáze látek.");
     return database;
+}
+
+void buildList(Smes& smes, const Database& database) {
+    smes.AdrVELOR(absolutePath(database.path));
+    smes.DataFileName(fileNameOf(database.path));
+    try {
+        smes.AkSeznam();
+    } catch (const RunTimeError& error) {
+        if (isRefusedAccess(error) && smes.PocLatek() > 0) return;
+        throw Failure(ExitCode::NothingComputed, "Seznam látek nelze sestavit: " + describe(error) + ".");
+    }
 }
 
 void loadInto(Smes& smes, const Database& database, std::span<const Substance> substances) {

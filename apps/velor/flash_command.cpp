@@ -70,6 +70,30 @@ Report flashReport(FlashAnswer flash, Mixture mixture, MixtureObject& object) {
     return reportOf(flash, mixture.substances);
 }
 
+// The library asks for the composition although it may be known: then it is suggested.
+class KnownFeed : public RecordingUserInterface {
+  public:
+    KnownFeed(UserInterface& user, const std::vector<double>& fractions) : user_(user) {
+        for (const double fraction : fractions) feed_ += (feed_.empty() ? "" : " ") + exactText(fraction);
+    }
+
+    Answer showMessage(const Message& message) override { return user_.showMessage(message); }
+    std::string askText(const InputRequest& request) override {
+        InputRequest suggesting = request;
+        if (request.prompt.starts_with("Zadat složení nástřiku")) suggesting.defaultAnswer = feed_;
+        return user_.askText(suggesting);
+    }
+
+  private:
+    UserInterface& user_;
+    std::string feed_;
+};
+
+Report flashByAsking(const Mixture& mixture, UserInterface& user) {
+    MixtureObject object(mixture, &user);
+    return flashReport(runFlash(object, kAsking, 0, 0), mixture, object);
+}
+
 }  // namespace
 
 Report answer(const FlashRequest& request, const Database& database, UserInterface&) {
@@ -82,9 +106,12 @@ Report answer(const FlashRequest& request, const Database& database, UserInterfa
 
 Report answer(const AskingFlashRequest& request, const Database& database, UserInterface& userInterface) {
     const SubstanceList substances = findSubstances(database.substances, request.substances);
-    const Mixture mixture{database, substances, std::vector<double>(substances.size())};
-    MixtureObject object(mixture, &userInterface);
-    return flashReport(runFlash(object, kAsking, 0, 0), mixture, object);
+    return flashByAsking({database, substances, std::vector<double>(substances.size())}, userInterface);
+}
+
+Report askedFlash(const Mixture& mixture, UserInterface& userInterface) {
+    KnownFeed user(userInterface, mixture.moleFractions);
+    return flashByAsking(mixture, user);
 }
 
 }  // namespace velor::app

@@ -1,13 +1,17 @@
 // The velor command: arguments -> request -> report -> text.
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <iterator>
 #include <string>
+#include <utility>
 
 #include "arguments.h"
 #include "commands.h"
 #include "failure.h"
+#include "mixture_dialog.h"
 #include "run_time_error_text.h"
 #include "time_limit.h"
 
@@ -15,12 +19,38 @@ namespace velor::app {
 
 namespace {
 
+// A reader that went away has read enough: no text, only the exit code.
+void write(const std::string& text) {
+    errno = 0;
+    std::cout << text << std::flush;
+    if (!std::cout && errno == EPIPE) throw Failure(ExitCode::NothingComputed, "");
+    if (!std::cout) throw Failure(ExitCode::NothingComputed, "Výsledek se nepodařilo zapsat na výstup.");
+}
+
 // The list of properties is known without a database.
 Report reportOn(const PropertyListRequest&, const Request&, UserInterface&) { return propertyList(); }
 
 template <class Question>
 Report reportOn(const Question& question, const Request& request, UserInterface& userInterface) {
     return answer(question, openDatabase(request.database, userInterface), userInterface);
+}
+
+// Whether to flash the mixture is decided with its overview before one's eyes: people read it at once. A program gets
+// both as one document.
+Report reportOn(const MixtureDialogRequest& question, const Request& request, PatientUserInterface& user) {
+    const Database database = openDatabase(request.database, user);
+    const Mixture mixture = askMixture(database, user);
+    Report report = describeMixture(mixture, question.pressure);
+    const bool isRead = request.form == OutputForm::Text;
+    if (isRead) write(asText(std::exchange(report, {})));
+    if (!isFlashWanted(user)) return report;
+    Report flash = askedFlash(mixture, user);
+    if (isRead) {
+        flash.text.insert(0, "\n");
+        return flash;
+    }
+    std::ranges::move(flash.sections, std::back_inserter(report.sections));
+    return report;
 }
 
 std::string answerText(const Request& request) {
@@ -35,14 +65,6 @@ std::string run(int argc, const char* const* argv) {
     const auto parsed = parseArguments(argc, argv);
     if (const auto* ready = std::get_if<ReadyAnswer>(&parsed)) return *ready;
     return answerText(std::get<Request>(parsed));
-}
-
-// A reader that went away has read enough: no text, only the exit code.
-void write(const std::string& text) {
-    errno = 0;
-    std::cout << text << std::flush;
-    if (!std::cout && errno == EPIPE) throw Failure(ExitCode::NothingComputed, "");
-    if (!std::cout) throw Failure(ExitCode::NothingComputed, "Výsledek se nepodařilo zapsat na výstup.");
 }
 
 int finish(ExitCode code, const std::string& text) {

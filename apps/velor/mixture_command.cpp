@@ -19,12 +19,14 @@ Section pseudocriticalSection(MixtureObject& object) {
 
 }  // namespace
 
-Report answer(const MixtureRequest& request, const Database& database, UserInterface&) {
-    const Mixture mixture = findMixture(request.composition, database);
+Report describeMixture(const Mixture& mixture, double P) {
     MixtureObject object(mixture);
-    return {{compositionSection(mixture), pseudocriticalSection(object),
-             boilingSection(boilingRange(mixture, request.pressure), request.pressure)},
+    return {{compositionSection(mixture), pseudocriticalSection(object), boilingSection(boilingRange(mixture, P), P)},
             {}};
+}
+
+Report answer(const MixtureRequest& request, const Database& database, UserInterface&) {
+    return describeMixture(findMixture(request.composition, database), request.pressure);
 }
 
 }  // namespace velor::app

@@ -24,19 +24,33 @@ decltype(Request::question) flashQuestion(const Arguments& arguments) {
     return AskingFlashRequest{arguments.substances};
 }
 
+decltype(Request::question) mixtureQuestion(const Arguments& arguments, const CLI::Option* substances) {
+    const bool isNamed = substances->count() > 0;
+    if (!arguments.dialog) {
+        if (!isNamed) refuse("Chybí povinný údaj --latky.\nNápověda: velor smes --help");
+        return MixtureRequest{compositionOf(arguments), pressureOrNormal(arguments)};
+    }
+    if (isNamed || arguments.fractions || arguments.byMass || arguments.normalise)
+        refuse("S přepínačem --dialog zadejte nejvýše -P; na látky a složení se program zeptá.");
+    return MixtureDialogRequest{pressureOrNormal(arguments)};
+}
+
 }  // namespace
 
 void addMixtureCommand(CLI::App& program, Arguments& arguments) {
     CLI::App* command = program.add_subcommand("smes", "složení, pseudokritické veličiny, bod varu a rosný bod směsi")
                             ->group(kCommands);
-    addSubstances(command, arguments)->required();
+    const CLI::Option* substances = addSubstances(command, arguments);
     addComposition(command, arguments);
     addPressure(command, arguments, kNormalPressure);
+    command->add_flag("--dialog", arguments.dialog, "na látky a složení se zeptá a nabídne výpočet flash")
+        ->group(kOptions);
     addCommonOptions(command, arguments);
-    command->footer("Příklad: velor smes --latky benzen,toluen --slozeni 0.5,0.5");
-    command->callback([&] {
-        arguments.question = MixtureRequest{compositionOf(arguments), pressureOrNormal(arguments)};
-    });
+    command->footer(
+        "Povinné je buď --latky, nebo --dialog.\n"
+        "Příklady: velor smes --latky benzen,toluen --slozeni 0.5,0.5\n"
+        "          velor smes --dialog -P 200000");
+    command->callback([&, substances] { arguments.question = mixtureQuestion(arguments, substances); });
 }
 
 void addOverviewCommand(CLI::App& program, Arguments& arguments) {

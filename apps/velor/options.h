@@ -18,7 +18,7 @@ void addTemperature(CLI::App* command, Arguments& arguments, const std::string& 
 void addPressure(CLI::App* command, Arguments& arguments, const std::string& description);
 void addClamp(CLI::App* command, Arguments& arguments);
 
-// The words of a name of several words, which needs no quotes.
+// The words of a text of several words, which needs no quotes.
 std::string joinedSubstance(const Arguments& arguments);
 // The value of an option that the command cannot do without. Failure(WrongUse) where it was left out.
 const std::string& required(const std::optional<std::string>& value, const std::string& option);

@@ -1,4 +1,5 @@
 #include "failure.h"
+#include "folding.h"
 #include "options.h"
 
 namespace velor::app {
@@ -13,7 +14,34 @@ void requireProperty(const CLI::Option* property, const CLI::Option* substances)
     }
 }
 
+bool isByNumber(const std::string& order) {
+    const std::string word = folded(order);
+    if (word == "CISEL") return true;
+    if (word == "NAZVU") return false;
+    throw Failure(ExitCode::WrongUse, "Seznam lze řadit podle nazvu nebo cisel, zadáno: „" + order + "“.");
+}
+
 }  // namespace
+
+void addSubstanceListCommand(CLI::App& program, Arguments& arguments) {
+    CLI::App* command =
+        program.add_subcommand("seznam", "seznam látek v bázi, celý nebo s hledaným textem")->group(kCommands);
+    command
+        ->add_option("TEXT", arguments.substance,
+                     "vypíše jen řádky, které jej obsahují (číslo, název, synonymum,\n"
+                     "vzorec, CAS), bez ohledu na velikost písmen a diakritiku")
+        ->group(kOptions);
+    command->add_option("--podle", arguments.order, "řazení podle nazvu (výchozí) nebo podle cisel")
+        ->option_text("POŘADÍ")
+        ->group(kOptions);
+    addCommonOptions(command, arguments);
+    command->footer(
+        "Celý seznam se také zapíše do souboru SEZNAM.DAT vedle databáze, pokud je tam zápis dovolen.\n"
+        "Příklad: velor seznam kyselina");
+    command->callback([&] {
+        arguments.question = SubstanceListRequest{joinedSubstance(arguments), isByNumber(arguments.order)};
+    });
+}
 
 void addSubstanceCommand(CLI::App& program, Arguments& arguments) {
     CLI::App* command = program.add_subcommand("latka", "názvy, konstanty a korelace jedné látky")->group(kCommands);

@@ -30,6 +30,11 @@ struct TourRequest {
 
 struct PropertyListRequest {};
 
+struct SubstanceListRequest {
+    std::string text;  // that a line is to hold
+    bool byNumber = false;
+};
+
 struct CompositionRequest {
     std::string substances;
     std::optional<std::vector<double>> fractions;  // a single substance needs none
@@ -47,6 +52,11 @@ struct MixturePropertyRequest {
 
 struct MixtureRequest {
     CompositionRequest composition;
+    double pressure = 0;
+};
+
+// The library asks for the substances and their fractions.
+struct MixtureDialogRequest {
     double pressure = 0;
 };
 
@@ -85,8 +95,9 @@ struct Request {
     std::optional<std::string> database;  // instead of the one that VELOR.CFG names
     OutputForm form = OutputForm::Text;
     double timeLimit = 0;  // s
-    std::variant<SubstanceRequest, PropertyRequest, TourRequest, PropertyListRequest, MixturePropertyRequest,
-                 MixtureRequest, OverviewRequest, EquilibriumRequest, GraphRequest, FlashRequest, AskingFlashRequest>
+    std::variant<SubstanceListRequest, SubstanceRequest, PropertyRequest, TourRequest, PropertyListRequest,
+                 MixturePropertyRequest, MixtureRequest, MixtureDialogRequest, OverviewRequest, EquilibriumRequest,
+                 GraphRequest, FlashRequest, AskingFlashRequest>
         question;
 };
 

@@ -13,6 +13,7 @@ namespace velor::app {
 // What stands on the command line.
 struct Arguments {
     std::vector<std::string> substance;
+    std::string order = "nazvu";
     std::string property;
     bool list = false;
     std::string substances;
@@ -24,6 +25,7 @@ struct Arguments {
     bool clamp = false;
     std::string points = "21";
     std::optional<std::string> picture;
+    bool dialog = false;
     bool adiabatic = false;
     bool asking = false;
     std::string database;
@@ -39,6 +41,7 @@ inline constexpr const char* kCommands = "Příkazy";
 // On the program and on each command, so that they may stand before it and behind it.
 void addCommonOptions(CLI::App* app, Arguments& arguments);
 
+void addSubstanceListCommand(CLI::App& program, Arguments& arguments);
 void addSubstanceCommand(CLI::App& program, Arguments& arguments);
 void addTourCommand(CLI::App& program, Arguments& arguments);
 void addPropertyCommand(CLI::App& program, Arguments& arguments);

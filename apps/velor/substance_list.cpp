@@ -56,4 +56,9 @@ SubstanceList readSubstances(const std::string& databasePath) {
     return isDatabase ? substances : SubstanceList{};
 }
 
+const Substance* findByNumber(const SubstanceList& substances, int number) {
+    const auto found = std::ranges::lower_bound(substances, number, {}, &Substance::number);
+    return found != substances.end() && found->number == number ? &*found : nullptr;
+}
+
 }  // namespace velor::app

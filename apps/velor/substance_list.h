@@ -20,4 +20,7 @@ using SubstanceList = std::vector<Substance>;
 // opening the file.
 SubstanceList readSubstances(const std::string& databasePath);
 
+// The substance of that number; null where there is none.
+const Substance* findByNumber(const SubstanceList& substances, int number);
+
 }  // namespace velor::app

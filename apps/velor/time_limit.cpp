@@ -19,7 +19,7 @@ namespace {
 }  // namespace
 
 TimeLimit::TimeLimit(double seconds) : seconds_(seconds) {
-    set(false);
+    pause(0);
     watcher_ = std::thread([this] { watch(); });
 }
 
@@ -32,10 +32,10 @@ TimeLimit::~TimeLimit() {
     watcher_.join();
 }
 
-void TimeLimit::set(bool isPaused) {
+void TimeLimit::pause(int change) {
     {
         const std::lock_guard lock(mutex_);
-        isPaused_ = isPaused;
+        pauses_ += change;
         end_ = Clock::now() + std::chrono::duration_cast<Clock::duration>(std::chrono::duration<double>(seconds_));
     }
     changed_.notify_one();
@@ -44,7 +44,7 @@ void TimeLimit::set(bool isPaused) {
 void TimeLimit::watch() {
     std::unique_lock lock(mutex_);
     while (!isOver_) {
-        if (isPaused_) {
+        if (pauses_ > 0) {
             changed_.wait(lock);
         } else if (Clock::now() >= end_) {
             giveUp(seconds_);
@@ -62,6 +62,21 @@ Answer PatientUserInterface::showMessage(const Message& message) {
 std::string PatientUserInterface::askText(const InputRequest& request) {
     const TimeLimit::Pause pause(limit_);
     return StreamUserInterface::askText(request);
+}
+
+void PatientUserInterface::showForm(F_Sezn& form) {
+    const TimeLimit::Pause pause(limit_);
+    StreamUserInterface::showForm(form);
+}
+
+void PatientUserInterface::showForm(F_Seznam& form) {
+    const TimeLimit::Pause pause(limit_);
+    StreamUserInterface::showForm(form);
+}
+
+void PatientUserInterface::showForm(F_Sloz& form) {
+    const TimeLimit::Pause pause(limit_);
+    StreamUserInterface::showForm(form);
 }
 
 }  // namespace velor::app

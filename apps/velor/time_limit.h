@@ -3,7 +3,7 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <iosfwd>
+#include <istream>
 #include <mutex>
 #include <thread>
 
@@ -20,11 +20,12 @@ class TimeLimit {
     TimeLimit(const TimeLimit&) = delete;
     TimeLimit& operator=(const TimeLimit&) = delete;
 
-    // Stops the clock while it exists; behind it the whole time is allowed again.
+    // Stops the clock while it exists; behind it the whole time is allowed again. A form may show a message of its own,
+    // so that pauses may lie within each other.
     class Pause {
       public:
-        explicit Pause(TimeLimit& limit) : limit_(limit) { limit_.set(true); }
-        ~Pause() { limit_.set(false); }
+        explicit Pause(TimeLimit& limit) : limit_(limit) { limit_.pause(1); }
+        ~Pause() { limit_.pause(-1); }
         Pause(const Pause&) = delete;
         Pause& operator=(const Pause&) = delete;
 
@@ -35,14 +36,14 @@ class TimeLimit {
   private:
     using Clock = std::chrono::steady_clock;
 
-    void set(bool isPaused);
+    void pause(int change);
     void watch();
 
     const double seconds_;
     std::mutex mutex_;
     std::condition_variable changed_;
     Clock::time_point end_;
-    bool isPaused_ = false;
+    int pauses_ = 0;  // that exist now
     bool isOver_ = false;
     std::thread watcher_;  // last, because it uses all above
 };
@@ -51,12 +52,19 @@ class TimeLimit {
 class PatientUserInterface : public StreamUserInterface {
   public:
     PatientUserInterface(std::istream& answers, std::ostream& messages, TimeLimit& limit)
-        : StreamUserInterface(answers, messages), limit_(limit) {}
+        : StreamUserInterface(answers, messages), input_(answers), limit_(limit) {}
 
     Answer showMessage(const Message& message) override;
     std::string askText(const InputRequest& request) override;
+    void showForm(F_Sezn& form) override;
+    void showForm(F_Seznam& form) override;
+    void showForm(F_Sloz& form) override;
+
+    // Whether an answer was due after the end of input: then No or Back is nobody's decision.
+    bool isDeserted() const { return input_.fail(); }
 
   private:
+    const std::istream& input_;
     TimeLimit& limit_;
 };
 

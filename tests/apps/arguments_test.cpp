@@ -6,15 +6,16 @@ namespace velor::test {
 namespace {
 
 TEST(ArgumentsTest, helpIsCzech) {
-    const std::vector<Words> commands{{},          {"latka"},     {"vlastnost"}, {"ukazka"}, {"smes"},
-                                      {"prehled"}, {"rovnovaha"}, {"flash"},     {"graf"}};
+    const std::vector<Words> commands{{},       {"seznam"},  {"latka"},     {"vlastnost"}, {"ukazka"},
+                                      {"smes"}, {"prehled"}, {"rovnovaha"}, {"flash"},     {"graf"}};
     for (Words words : commands) {
         words.push_back("--help");
         const Outcome outcome = run(words);
         EXPECT_EQ(outcome.exitCode, 0);
         for (const char* phrase : {"Použití: velor", "Přepínače:", "--baze SOUBOR", "--csv", "--json"})
             expectMentions(outcome.out, phrase);
-        for (const char* english : {"Usage", "OPTIONS", "Options", "REQUIRED", "Positionals", "SUBCOMMAND", "TEXT"})
+        for (const char* english :
+             {"Usage", "OPTIONS", "Options", "REQUIRED", "Positionals", "SUBCOMMAND", " TEXT ..."})
             EXPECT_EQ(outcome.out.find(english), std::string::npos) << english;
     }
 }
@@ -40,6 +41,10 @@ TEST(ArgumentsTest, wrongUseIsSaidInCzech) {
         {{"latka", "1", "--baze"}, "Přepínač --baze nemá hodnotu."},
         {{"vlastnost"}, "Chybí povinný údaj VLASTNOST."},
         {{"smes"}, "Chybí povinný údaj --latky."},
+        {{"smes", "--dialog", "--latky", "1"}, "S přepínačem --dialog zadejte nejvýše -P"},
+        {{"smes", "--dialog", "--slozeni", "1"}, "S přepínačem --dialog zadejte nejvýše -P"},
+        {{"smes", "--dialog", "-P", "0"}, "Tlak musí být kladný"},
+        {{"seznam", "--podle", "vzorce"}, "podle nazvu nebo cisel, zadáno: „vzorce“"},
         {{"vlastnost", "TENS", "-T", "300"}, "Chybí povinný údaj --latky."},
         {{"vlastnost", "TENS", "--latky", "1"}, "Chybí povinný údaj --teplota."},
         {{"vlastnost", "TENS", "--latky", "1", "-T", "300", "-T", "310"}, "Přepínač --teplota je zadán vícekrát."},

@@ -1,0 +1,73 @@
+#include "mixture_dialog.h"
+
+#include "failure.h"
+#include "run_time_error_text.h"
+
+namespace velor::app {
+
+namespace {
+
+constexpr int kMostComponents = 20;
+constexpr int kEqualParts = 1;
+
+[[noreturn]] void fail(const std::string& text) { throw Failure(ExitCode::NothingComputed, text); }
+
+void requireInput(const PatientUserInterface& user) {
+    if (user.isDeserted()) fail("Vstup skončil dříve, než byl dialog dokončen.");
+}
+
+// A number too large or a negative fraction is no reason to begin anew.
+bool isSlipOfTyping(const RunTimeError& error) {
+    return error.number() == RunTimeError::kOverflow || error.number() == RunTimeError::kRaisedToHost;
+}
+
+// Every turn asks the user, who can go back; so does the end of input.
+template <class Question>
+void askUntilAccepted(PatientUserInterface& user, const Question& question) {
+    for (;;) {
+        try {
+            question();
+            return requireInput(user);
+        } catch (const RunTimeError& error) {
+            if (!isSlipOfTyping(error)) throw;
+            user.showMessage({describe(error), Icon::Exclamation});
+        }
+    }
+}
+
+void requireComponents(const Smes& smes, const std::string& otherwise) {
+    if (smes.Nsloz().toInt16() <= 0) fail(otherwise);
+}
+
+Mixture mixtureOf(const Smes& smes, const Database& database, const Variant& X) {
+    Mixture mixture{database, {}, {}};
+    for (int i = 1; i <= smes.Nsloz().toInt16(); ++i) {
+        const Substance* const substance = findByNumber(database.substances, smes.Nslozky(i).toInt16());
+        if (!substance) fail("Složka č. " + std::to_string(i) + " není v bázi.");
+        mixture.substances.push_back(*substance);
+        mixture.moleFractions.push_back(X.at(i).toDouble());
+    }
+    return mixture;
+}
+
+}  // namespace
+
+Mixture askMixture(const Database& database, PatientUserInterface& user) {
+    Smes smes(user);
+    buildList(smes, database);
+    askUntilAccepted(user, [&] { smes.ZadejSmes(); });
+    requireComponents(smes, "Nebyly zadány složky směsi.");
+    Variant n, X = Fractions(std::vector<double>(kMostComponents)), W = X;
+    askUntilAccepted(user, [&] { smes.ZadejSloz(n, X, W, Variant::missing(), kEqualParts); });
+    requireComponents(smes, "Složení nebylo zadáno, směs zůstala bez složek.");
+    smes.Normal(X);  // the dialog lets pass a sum that the properties refuse
+    return mixtureOf(smes, database, X);
+}
+
+bool isFlashWanted(PatientUserInterface& user) {
+    const Answer answer = user.showMessage({"Spočítat flash této směsi?", Icon::None, "VELOR", Buttons::YesNo});
+    requireInput(user);
+    return answer == Answer::Yes;
+}
+
+}  // namespace velor::app
