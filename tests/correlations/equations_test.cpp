@@ -5,26 +5,24 @@
 #include <cmath>
 #include <limits>
 
-#include "velor/run_time_error.h"
+#include "support/sample_mixture.h"
 
-namespace velor {
+namespace velor::test {
 namespace {
 
 struct Point {
     int type;
     Coefficients A;
-    double T;
-    double y;
+    double T, y;  // y: the value, or the error's number
 };
 
 // Worked out apart from this code, in 40-digit decimal arithmetic on the single-precision coefficients.
 TEST(Equations, agreeWithPointsWorkedOutByHand) {
+    // clang-format off
     const Point points[] = {
-        {1, {2, 0.25F}, 300.0, 7.7000000000000000e+01},
-        {2, {1, 0.5F, -0.125F}, 40.0, -1.7900000000000000e+02},
+        {1, {2, 0.25F}, 300.0, 7.7000000000000000e+01}, {2, {1, 0.5F, -0.125F}, 40.0, -1.7900000000000000e+02},
         {3, {33.5F, -0.005F, 2e-05F, -7e-09F}, 350.0, 3.3899874971431217e+01},
-        {4, {1, 1, 1, 1, 1}, 2.0, 3.1000000000000000e+01},
-        {5, {1, 2, 3, 4, 5, 6}, 3.0, 2.0050000000000000e+03},
+        {4, {1, 1, 1, 1, 1}, 2.0, 3.1000000000000000e+01}, {5, {1, 2, 3, 4, 5, 6}, 3.0, 2.0050000000000000e+03},
         {6, {21, -2700, -50}, 350.0, 1.6275479141900392e+05},
         {7, {0.275F, 0.26F, 508}, 330.0, 7.4626404064723158e+02},
         {8, {40000, 0.38F, 0.38F, 500}, 300.0, 2.8246735408771918e+04},
@@ -44,6 +42,7 @@ TEST(Equations, agreeWithPointsWorkedOutByHand) {
         {18, {60, -6000, -5, 1e-10F, 3.5F}, 400.0, 3.8774072983664335e+06},
         {19, {7e-08F, 0.9346F, 195.6F, -13046}, 400.0, 1.3444555589453975e-05},
     };
+    // clang-format on
     for (const Point& p : points)
         EXPECT_NEAR(evaluateEquation(p.type, p.A, p.T) / p.y, 1.0, 5e-14) << "type " << p.type;
 }
@@ -52,23 +51,17 @@ constexpr float kTc = 500;
 
 // Types with a reference temperature: the last value below, the value at it, the value beyond it.
 TEST(Equations, endAtTheirReferenceTemperature) {
-    struct Limit {
-        int type;
-        Coefficients A;
-        double at;  // y at Tc
-    };
-    const Limit limits[] = {
-        {7, {0.3F, 0.25F, kTc}, 1000 * static_cast<double>(0.3F)},
-        {8, {40000, 300, 0.38F, kTc}, 0},
-        {13, {-7, 1.5F, -3, -1, kTc, 3e6F}, kNoValue},
-        {14, {0.05F, kTc}, kNoValue},
-        {15, {1, 0.25F, kTc, 0.28F}, 4},
+    // clang-format off
+    const std::tuple<int, Coefficients, double> limits[] = {
+        {7, {0.3F, 0.25F, kTc}, 1000 * static_cast<double>(0.3F)}, {8, {40000, 300, 0.38F, kTc}, 0},
+        {13, {-7, 1.5F, -3, -1, kTc, 3e6F}, kNoValue}, {14, {0.05F, kTc}, kNoValue}, {15, {1, 0.25F, kTc, 0.28F}, 4},
         {16, {0.09F, 0.8F, 0.1F, 0.05F, 0, kTc}, 0},
     };
-    for (const Limit& limit : limits) {
-        EXPECT_GT(evaluateEquation(limit.type, limit.A, 499.0), 1e-4) << limit.type;
-        EXPECT_NEAR(evaluateEquation(limit.type, limit.A, kTc), limit.at, 1e-10) << limit.type;
-        EXPECT_EQ(evaluateEquation(limit.type, limit.A, 500.001), kNoValue) << limit.type;
+    // clang-format on
+    for (const auto& [type, A, at] : limits) {
+        EXPECT_GT(evaluateEquation(type, A, 499.0), 1e-4) << type;
+        EXPECT_NEAR(evaluateEquation(type, A, kTc), at, 1e-10) << type;
+        EXPECT_EQ(evaluateEquation(type, A, 500.001), kNoValue) << type;
     }
     // A negative base below the reference temperature is no value either, not an error.
     EXPECT_EQ(evaluateEquation(8, {1, 600, 0.5F, kTc}, 400), kNoValue);
@@ -77,51 +70,22 @@ TEST(Equations, endAtTheirReferenceTemperature) {
 
 TEST(Equations, raiseWhatArithmeticRefuses) {
     constexpr float kNaN = std::numeric_limits<float>::quiet_NaN(), kInfinity = std::numeric_limits<float>::infinity();
-    struct Failure {
-        int type;
-        Coefficients A;
-        double T;
-        int error;
+    // clang-format off
+    const Point failures[] = {
+        {6, {1, 1, -300}, 300, 11}, {6, {800, 0, 0}, 300, 6}, {7, {-1, 0.2F, 500}, 300, 5},
+        {7, {0.2F, 0, 500}, 300, 5}, {8, {1, 500, 1, 500}, 300, 11}, {9, {1, 1, 1, 1}, -5, 5},
+        {9, {1, 1, -300, 0}, 300, 11}, {10, {1, 1, 0, 0, -300}, 300, 11}, {11, {1, 1}, 0, 11}, {12, {1, 1}, -2, 5},
+        {12, {1, -300}, 300, 11}, {13, {1, 1, 1, 1, 500, 1}, 0, 11}, {14, {1, 500}, -1, 5},
+        {15, {1, 0, 500, 1}, 300, 11}, {16, {1, 1, 1, 1, 0, 0}, 0, 11}, {17, {1, 0, 1}, 300, 11},
+        {17, {1, 1, 1}, 0, 11}, {18, {1, 1, 1, 1, 1}, 0, 11}, {18, {1, 1, 1, 1, 0.5F}, -1, 5},
+        {18, {0, 0, 0, 1, 200}, 400, 6}, {19, {1, 0.5F, 0, 0}, -1, 5}, {19, {1, 1, -300, 0}, 300, 11},
+        {1, {kNaN, 1}, 300, 6}, {5, {1, 1, 1, 1, 1, kInfinity}, 300, 6}, {6, {-kInfinity, 1, 1}, 300, 6},
+        {6, {1, 1, kInfinity}, 300, 6}, {18, {1, 1, 1, -1, 120}, 400, 6}, {19, {1, kNaN, 0, 0}, 1, 6},
+        {0, {}, 300, 9}, {20, {}, 300, 9},
     };
-    const Failure failures[] = {
-        {6, {1, 1, -300}, 300, 11},
-        {6, {800, 0, 0}, 300, 6},
-        {7, {-1, 0.2F, 500}, 300, 5},
-        {7, {0.2F, 0, 500}, 300, 5},
-        {8, {1, 500, 1, 500}, 300, 11},
-        {9, {1, 1, 1, 1}, -5, 5},
-        {9, {1, 1, -300, 0}, 300, 11},
-        {10, {1, 1, 0, 0, -300}, 300, 11},
-        {11, {1, 1}, 0, 11},
-        {12, {1, 1}, -2, 5},
-        {12, {1, -300}, 300, 11},
-        {13, {1, 1, 1, 1, 500, 1}, 0, 11},
-        {14, {1, 500}, -1, 5},
-        {15, {1, 0, 500, 1}, 300, 11},
-        {16, {1, 1, 1, 1, 0, 0}, 0, 11},
-        {17, {1, 0, 1}, 300, 11},
-        {17, {1, 1, 1}, 0, 11},
-        {18, {1, 1, 1, 1, 1}, 0, 11},
-        {18, {1, 1, 1, 1, 0.5F}, -1, 5},
-        {18, {0, 0, 0, 1, 200}, 400, 6},
-        {19, {1, 0.5F, 0, 0}, -1, 5},
-        {19, {1, 1, -300, 0}, 300, 11},
-        {1, {kNaN, 1}, 300, 6},
-        {5, {1, 1, 1, 1, 1, kInfinity}, 300, 6},
-        {6, {-kInfinity, 1, 1}, 300, 6},
-        {6, {1, 1, kInfinity}, 300, 6},
-        {18, {1, 1, 1, -1, 120}, 400, 6},
-        {19, {1, kNaN, 0, 0}, 1, 6},
-        {0, {}, 300, 9},
-        {20, {}, 300, 9},
-    };
-    for (const Failure& f : failures) {
-        try {
-            ADD_FAILURE() << "type " << f.type << " at " << f.T << " gave " << evaluateEquation(f.type, f.A, f.T);
-        } catch (const RunTimeError& error) {
-            EXPECT_EQ(error.number(), f.error) << "type " << f.type << " at " << f.T;
-        }
-    }
+    // clang-format on
+    for (const Point& f : failures)
+        EXPECT_EQ(errorNumber([&] { evaluateEquation(f.type, f.A, f.T); }), f.y) << "type " << f.type << " at " << f.T;
 }
 
 TEST(WaterDensity, agreesWithTheSaturatedLiquidOfIapws) {
@@ -136,4 +100,4 @@ TEST(WaterDensity, agreesWithTheSaturatedLiquidOfIapws) {
 }
 
 }  // namespace
-}  // namespace velor
+}  // namespace velor::test

@@ -6,15 +6,10 @@
 
 #include "support/sample_mixture.h"
 
-namespace velor {
+namespace velor::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::acceptableDatabase;
-using test::errorNumber;
-using test::readFile;
-using test::sampleSubstance;
-using test::TemporaryFolder;
 
 const std::string kDatabase = acceptableDatabase({sampleSubstance(1, "Voda")});
 
@@ -54,25 +49,20 @@ TEST_F(LocateTest, readsThePathInEveryForm) {
         folder.write("VELOR.CFG", content);
         smes.AdrVELOR("");
         EXPECT_EQ(smes.AdrVELOR(), expected) << content;
-        EXPECT_EQ(smes.SouborBaze(), expected);
         EXPECT_TRUE(boxes.messages.empty()) << content;
-        EXPECT_EQ(smes.DataFileName(), "VELOR.DRC");
     }
 }
 
+// The file name is taken from the first "." of the whole path on, as built: with a dot in a folder it holds that
+// folder.
 TEST_F(LocateTest, adoptsAnotherFileNameMarkedByACross) {
     const std::string path = folder.write("other.bin", kDatabase);
     configure(path + "#");
     EXPECT_EQ(smes.AdrVELOR(), path);
     EXPECT_EQ(smes.DataFileName(), "other.bin");
     EXPECT_TRUE(boxes.messages.empty());
-}
-
-// The file name is taken from the first "." of the whole path on, as built: with a dot in a folder it holds that
-// folder.
-TEST_F(LocateTest, stumblesOverADotInAFolder) {
-    const std::string path = folder.write("v1.0/other.bin", kDatabase);
-    configure(path + "#");
+    configure(folder.write("v1.0/other.bin", kDatabase) + "#");
+    smes.AdrVELOR("");
     EXPECT_EQ(smes.AdrVELOR(), "");
     EXPECT_EQ(smes.DataFileName(), "v1.0/other.bin");
     EXPECT_EQ(boxes.messages, std::vector{missingQuestion("v1.0/other.bin")});
@@ -94,26 +84,23 @@ TEST_F(LocateTest, asksBeforeItDeletesTheConfiguration) {
 }
 
 TEST_F(LocateTest, refusesAShortDatabase) {
-    struct Case {
-        std::size_t size;
-        Answer answer;
-        bool accepted, kept;
-    };
-    for (const Case& c : {Case{4000, Answer::No, true, true}, Case{3999, Answer::No, false, true},
-                          Case{0, Answer::Yes, false, false}}) {
-        const std::string path = folder.write("VELOR.DRC", std::string(c.size, ' '));
+    using Case = std::tuple<std::size_t, Answer, bool, bool>;
+    for (const auto& [size, answer, accepted, kept] :
+         {Case{4000, Answer::No, true, true}, Case{3999, Answer::No, false, true},
+          Case{0, Answer::Yes, false, false}}) {
+        const std::string path = folder.write("VELOR.DRC", std::string(size, ' '));
         configure(path);
         boxes.messages.clear();
-        boxes.nextAnswers = {c.answer};
+        boxes.nextAnswers = {answer};
         smes.AdrVELOR("");
-        EXPECT_EQ(smes.AdrVELOR(), c.accepted ? path : "");
-        if (!c.accepted) {
+        EXPECT_EQ(smes.AdrVELOR(), accepted ? path : "");
+        if (!accepted) {
             EXPECT_EQ(boxes.messages,
-                      (std::vector<Message>{{"Soubor " + path + "má příliš malou délku (" + std::to_string(c.size) +
+                      (std::vector<Message>{{"Soubor " + path + "má příliš malou délku (" + std::to_string(size) +
                                                  ") nebo je nulový.\r\nSmazat ho ? (Y/N)",
                                              Icon::None, "VELOR", Buttons::YesNo}}));
         }
-        EXPECT_EQ(fs::exists(path), c.kept);
+        EXPECT_EQ(fs::exists(path), kept);
     }
 }
 
@@ -168,22 +155,15 @@ TEST_F(LocateTest, searchesWhereTheFolderOfTheConfigurationIsMissing) {
 }
 
 TEST_F(LocateTest, reportsOtherFileErrors) {
-    struct Case {
-        std::string content;
-        const char* text;
-    };
-    const Case cases[] = {
-        {"jediný řádek\r\n", "Chyba č. 62 : Input past end of file"},
-        {"", "Chyba č. 62 : Input past end of file"},
-        {"a,   ", "Chyba č. 62 : Input past end of file"},
-    };
     for (const int mode : {0, 2, -1}) {
         smes.ChyboveHlasky(mode);
-        for (const Case& c : cases) {
-            folder.write("VELOR.CFG", c.content);
+        for (const char* content : {"jediný řádek\r\n", "", "a,   "}) {
+            folder.write("VELOR.CFG", content);
             boxes.messages.clear();
             EXPECT_EQ(errorNumber([&] { smes.Adrvlr(); }), mode == -1 ? RunTimeError::kRaisedToHost : 0);
-            EXPECT_EQ(boxes.messages, (std::vector<Message>{{c.text, Icon::Exclamation, "VELOR Adrvlr"}}));
+            EXPECT_EQ(
+                boxes.messages,
+                (std::vector<Message>{{"Chyba č. 62 : Input past end of file", Icon::Exclamation, "VELOR Adrvlr"}}));
         }
     }
     smes.ChyboveHlasky(0);
@@ -205,6 +185,24 @@ TEST_F(LocateTest, reportsWhatItMayNotRead) {
     EXPECT_EQ(seteuid(user), 0);
     EXPECT_EQ(boxes.messages,
               (std::vector<Message>{{"Chyba č. 70 : Permission denied", Icon::Exclamation, "VELOR Adrvlr"}}));
+}
+
+TEST(OpenFile, hasTheClassicErrors) {
+    const TemporaryFolder folder;
+    const std::pair<std::string, int> cases[] = {{"", 53},
+                                                 {folder / "gone", 53},
+                                                 {folder / "gone/VELOR.DRC", 76},
+                                                 {folder.path(), 75},
+                                                 {folder.write("file", "x") + "/y", 76}};
+    for (const auto& [path, number] : cases) {
+        RecordingUserInterface boxes;
+        Smes smes(boxes, {});
+        smes.CFGPath(folder.path());
+        smes.AdrVELOR(path);
+        smes.ZapisNslozky(1, 1);
+        EXPECT_EQ(errorNumber([&] { smes.Inivlr(); }), number) << path;
+        EXPECT_EQ(boxes.messages.size(), path.empty() ? 2U : 0U);  // the search and its failure
+    }
 }
 
 TEST_F(LocateTest, findFilesFillsAGrowingArray) {
@@ -230,31 +228,5 @@ TEST_F(LocateTest, findFilesFillsAGrowingArray) {
     EXPECT_EQ(Smes::TrimNulls("abc"), "abc");
 }
 
-TEST(OpenFile, hasTheClassicErrors) {
-    const TemporaryFolder folder;
-    const std::pair<std::string, int> cases[] = {{"", 53},
-                                                 {folder / "gone", 53},
-                                                 {folder / "gone/VELOR.DRC", 76},
-                                                 {folder.path(), 75},
-                                                 {folder.write("file", "x") + "/y", 76}};
-    for (const auto& [path, number] : cases) {
-        RecordingUserInterface boxes;
-        Smes smes(boxes, {});
-        smes.CFGPath(folder.path());
-        smes.AdrVELOR(path);
-        smes.ZapisNslozky(1, 1);
-        if (!path.empty()) {
-            EXPECT_EQ(errorNumber([&] { smes.Inivlr(); }), number) << path;
-        }
-    }
-    // Nothing found and nothing given: the file of an empty path does not exist.
-    RecordingUserInterface boxes;
-    Smes smes(boxes, {});
-    smes.CFGPath(folder.path());
-    smes.ZapisNslozky(1, 1);
-    EXPECT_EQ(errorNumber([&] { smes.Inivlr(); }), 53);
-    EXPECT_EQ(boxes.messages.size(), 2U);  // the search and its failure
-}
-
 }  // namespace
-}  // namespace velor
+}  // namespace velor::test

@@ -4,115 +4,68 @@
 #include "platform/system.h"
 #include "support/sample_mixture.h"
 
-namespace velor {
+namespace velor::test {
 namespace {
 
-using test::errorNumber;
-using test::sampleSubstance;
+using Lines = std::vector<std::string>;
+using Requests = std::vector<InputRequest>;
+using Answers = std::deque<std::string>;
 
-const InputRequest kOrder{"0 - podle abecedy\r\n1 - podle čísel (chvíli trvá ...)", "VELOR", "0"};
-const InputRequest kWanted{"Vložte název nebo část názvu hledané látky (bez *, %):", "VELOR", ""};
-
-struct ListFormTest : ::testing::Test {
-    test::SampleMixture mixture{{sampleSubstance(1, "Ethanol"), sampleSubstance(2, "Žluť 50%"),
-                                 sampleSubstance(3, "Aceton"), sampleSubstance(4, "Methanol")}};
-    Smes& smes = mixture.smes;
-    RecordingUserInterface& boxes = mixture.boxes;
+TEST(ListForm, asksForTheOrderOrTheText) {
+    SampleMixture mixture({sampleSubstance(1, "Ethanol"), sampleSubstance(2, "Žluť 50%"), sampleSubstance(3, "Aceton"),
+                           sampleSubstance(4, "Methanol")});
+    auto& [folder, boxes, smes] = mixture;
     F_Sezn shown;
-
-    // Shows the list; the names or other texts of its lines.
-    std::vector<std::string> show(const Variant& mode, std::deque<std::string> answers) {
+    // Shows the list; the numbers or other texts of its lines.
+    const auto show = [&](const Variant& mode, Answers answers) {
         boxes.requests.clear();
         boxes.nextTexts = std::move(answers);
         boxes.nextListActions = {[&](F_Sezn& form) { shown = form; }};
         smes.SeznamShow(mode);
-        std::vector<std::string> lines;
-        for (const std::string& line : shown.L_Sezn.items)
-            lines.push_back(line.starts_with("00") ? line.substr(0, 3) : line);
+        Lines lines = shown.L_Sezn.items;
+        for (std::string& line : lines)
+            if (line.starts_with("00")) line.resize(3);
         return lines;
-    }
-};
-
-TEST_F(ListFormTest, asksForTheOrderOrTheText) {
-    using Lines = std::vector<std::string>;
-    using Requests = std::vector<InputRequest>;
+    };
+    const Requests order{{"0 - podle abecedy\r\n1 - podle čísel (chvíli trvá ...)", "VELOR", "0"}};
+    const Requests wanted{{"Vložte název nebo část názvu hledané látky (bez *, %):", "VELOR", ""}};
+    const Lines byName{"003", "001", "004", "002"}, byNumber{"001", "002", "003", "004"};
     struct Case {
         Variant mode;
-        std::deque<std::string> answers;
+        Answers answers;
         Requests requests;
         Lines lines;
-        int rememberedMode;
-        std::string heading;
+        int rememberedMode, found;  // -1: all are shown
     };
-    const Lines byName{"003", "001", "004", "002"}, byNumber{"001", "002", "003", "004"};
-    const std::string all = "Počet zahrnutých látek  4";
-    const auto found = [](int count) { return "k zadání nalezeno " + std::to_string(count) + " látek"; };
+    // clang-format off
     const Case cases[] = {
-        {Variant::missing(), {"0"}, {kOrder}, byName, -1, all},
-        {-1, {""}, {kOrder}, byName, -1, all},
-        {0, {"1"}, {kOrder}, byNumber, 0, all},
-        {1, {"1 "}, {kOrder}, byName, 1, all},
-        {Variant(), {"x"}, {kOrder}, byName, 0, all},
-        {1, {"2", "ANOL"}, {kOrder, kWanted}, {"001", "004"}, 2, found(2)},
-        {2, {"aceton*"}, {kWanted}, {"003"}, 2, found(1)},
-        {2, {""}, {kWanted}, byName, 2, found(4)},
-        {2, {"*"}, {kWanted}, byName, 2, found(4)},
-        {2, {"žluť 50%"}, {kWanted}, {"002"}, 2, found(1)},
-        {2, {"64-17"}, {kWanted}, byName, 2, found(4)},
-        {2, {"004 "}, {kWanted}, {"004"}, 2, found(1)},
-        {2, {"xyz"}, {kWanted}, {"Látka  XYZ  nenalezena!!!"}, 2, found(1)},
-        {2, {"č*e*ton"}, {kWanted}, {"Látka  ČE*TON  nenalezena!!!"}, 2, found(1)},
-        {2,
-         {"é*" + std::string(120, 'x')},
-         {kWanted},
-         {"Látka  É" + std::string(99, 'X') + "  nenalezena!!!"},
-         2,
-         found(1)},
-        {3, {}, {}, {}, 3, all},
-    };
+        {Variant::missing(), {"0"}, order, byName, -1, -1}, {-1, {""}, order, byName, -1, -1},
+        {0, {"1"}, order, byNumber, 0, -1}, {1, {"1 "}, order, byName, 1, -1}, {Variant(), {"x"}, order, byName, 0, -1},
+        {1, {"2", "ANOL"}, {order[0], wanted[0]}, {"001", "004"}, 2, 2}, {2, {"aceton*"}, wanted, {"003"}, 2, 1},
+        {2, {""}, wanted, byName, 2, 4}, {2, {"*"}, wanted, byName, 2, 4}, {2, {"žluť 50%"}, wanted, {"002"}, 2, 1},
+        {2, {"64-17"}, wanted, byName, 2, 4}, {2, {"004 "}, wanted, {"004"}, 2, 1},
+        {2, {"xyz"}, wanted, {"Látka  XYZ  nenalezena!!!"}, 2, 1},
+        {2, {"č*e*ton"}, wanted, {"Látka  ČE*TON  nenalezena!!!"}, 2, 1},
+        {2, {"é*" + std::string(120, 'x')}, wanted, {"Látka  É" + std::string(99, 'X') + "  nenalezena!!!"}, 2, 1},
+        {3, {}, {}, {}, 3, -1}};
+    // clang-format on
     for (const Case& c : cases) {
-        EXPECT_EQ(show(c.mode, c.answers), c.lines) << c.heading;
+        EXPECT_EQ(show(c.mode, c.answers), c.lines);
         EXPECT_EQ(boxes.requests, c.requests);
         EXPECT_EQ(smes.RezimSeznamu(), c.rememberedMode);
         EXPECT_EQ(shown.Nadpis_1, "SEZNAM LÁTEK DATABÁZE  V E L O R   " + platform::shortDate());
-        EXPECT_EQ(shown.Nadpis_2, c.heading);
+        EXPECT_EQ(shown.Nadpis_2, c.found < 0 ? "Počet zahrnutých látek  4"
+                                              : "k zadání nalezeno " + std::to_string(c.found) + " látek");
         EXPECT_EQ(shown.L_Sezn.selected, c.lines.empty() ? -1 : 0);
-        EXPECT_TRUE(shown.visible);
     }
     EXPECT_TRUE(boxes.messages.empty());
     EXPECT_EQ(errorNumber([&] { show(0, {}); }), 62);  // nobody answers
     EXPECT_EQ(errorNumber([&] { show("x", {}); }), 13);
     EXPECT_EQ(errorNumber([&] { show(40000, {}); }), 6);
-}
-
-TEST_F(ListFormTest, closesOnAnything) {
-    const std::function<void(F_Sezn&)> ways[] = {[](F_Sezn& form) { form.click(); },
-                                                 [](F_Sezn& form) { form.keyPressed('x'); },
-                                                 [](F_Sezn& form) { form.close(); }};
-    for (const auto& way : ways) {
-        F_Sezn form;
-        form.visible = true;
-        bool visibleInEvent = false;
-        form.zavrit = [&] { visibleInEvent = form.visible; };
-        way(form);
-        EXPECT_TRUE(visibleInEvent);
-        EXPECT_FALSE(form.visible);
-    }
-}
-
-TEST_F(ListFormTest, isRenewedByAReset) {
     show(2, {"aceton"});
     smes.ResetujSmes();
-    F_Sezn* renewed = nullptr;
-    boxes.nextListActions = {[&](F_Sezn& form) { renewed = &form; }};
-    smes.SeznamShow(3);
-    ASSERT_NE(renewed, nullptr);
-    EXPECT_TRUE(renewed->L_Sezn.items.empty());
-    EXPECT_EQ(smes.PocLatek(), 4);
-    EXPECT_EQ(smes.Nsloz(), Variant(std::int16_t{0}));
-    smes.mSeznam_zavrit();
-    EXPECT_FALSE(renewed->visible);
+    EXPECT_EQ(show(3, {}), Lines{});  // renewed
 }
 
 }  // namespace
-}  // namespace velor
+}  // namespace velor::test

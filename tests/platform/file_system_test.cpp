@@ -8,13 +8,10 @@
 #include "platform/system.h"
 #include "support/sample_mixture.h"
 
-namespace velor {
+namespace velor::test {
 namespace {
 
 namespace fs = std::filesystem;
-using test::errorNumber;
-using test::readFile;
-using test::TemporaryFolder;
 
 TEST(ReplaceFile, leavesTheOldOrTheNewContentOnly) {
     const TemporaryFolder folder;
@@ -29,7 +26,6 @@ TEST(ReplaceFile, leavesTheOldOrTheNewContentOnly) {
     EXPECT_EQ(errorNumber([&] { platform::replaceFile(folder / "target", "three"); }), RunTimeError::kPathFileAccess);
     EXPECT_EQ(std::distance(fs::directory_iterator(folder.path()), {}), 2);
     EXPECT_EQ(errorNumber([&] { platform::replaceFile(folder / "gone/file", ""); }), RunTimeError::kPathNotFound);
-    EXPECT_EQ(errorNumber([&] { platform::deleteFile(folder / "gone"); }), RunTimeError::kFileNotFound);
     EXPECT_EQ(errorNumber([&] { platform::deleteFile(path + std::string("\0x", 2)); }), RunTimeError::kFileNotFound);
     EXPECT_TRUE(fs::exists(path));
 }
@@ -48,22 +44,11 @@ TEST(ReplaceFile, isAtomic) {
     }
 }
 
-TEST(ReadOnlyFile, refusesWhatIsNoFile) {
+TEST(System, refusesWhatIsNoFileAndWalksNoKernelFolders) {
     EXPECT_EQ(errorNumber([] { platform::ReadOnlyFile("/dev/null"); }), RunTimeError::kPathFileAccess);
-    EXPECT_EQ(platform::fileName("/dev/null"), "");
-}
-
-TEST(Volumes, beginWithTheRoot) {
-    const auto volumes = platform::volumes();
-    ASSERT_FALSE(volumes.empty());
-    EXPECT_EQ(volumes.front(), "/");
-    for (const std::string& volume : volumes) {
-        EXPECT_EQ(volume.back(), '/');
+    for (const std::string& volume : platform::volumes())
         EXPECT_FALSE(volume.starts_with("/proc/") || volume.starts_with("/sys/")) << volume;
-    }
 }
-
-TEST(ShortDate, isNotEmpty) { EXPECT_NE(platform::shortDate().find_first_of("0123456789"), std::string::npos); }
 
 }  // namespace
-}  // namespace velor
+}  // namespace velor::test

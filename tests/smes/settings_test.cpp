@@ -4,12 +4,35 @@
 
 #include "support/sample_mixture.h"
 
-namespace velor {
+namespace velor::test {
 namespace {
 
-using test::errorNumber;
-using test::SampleMixture;
-using test::sampleSubstance;
+TEST(CorrelationItems, areReadAndWritten) {
+    TLatka record = sampleSubstance(1, "Voda");
+    record.Korelace[10] = {{1, 2, 3, 4, 5, 6}, 7, 8, 9, 10};
+    SampleMixture mixture({record});
+    Smes& smes = mixture.smes;
+    EXPECT_EQ(smes.VLRConst(1, 1, 1), -9999.0F);  // nothing defined yet
+    smes.DefSlozky(List({1}));
+    for (int j = 1; j <= 10; ++j) EXPECT_EQ(smes.VLRConst(1, 11, j), static_cast<float>(j));
+    for (const int j : {0, 11, -1}) EXPECT_EQ(smes.VLRConst(1, 1, j), 0.0F);
+    for (const auto& [i, k] : {std::pair{0, 1}, {2, 1}, {1, 0}, {1, 12}}) {
+        EXPECT_EQ(smes.VLRConst(i, k, 1), -9999.0F);
+        mixture.boxes.messages.clear();
+        smes.VLRConst(i, k, 1, 5);
+        EXPECT_EQ(mixture.boxes.messages,
+                  (std::vector<Message>{{"VLRConst( ) - chybné zadání!", Icon::Exclamation, "VELOR"}}));
+    }
+    for (int j = 1; j <= 10; ++j) smes.VLRConst(1, 11, j, 2.5 + j);
+    for (int j = 1; j <= 6; ++j) EXPECT_EQ(smes.VLRConst(1, 11, j), 2.5F + static_cast<float>(j));
+    const float rounded[] = {10, 10, 12, 12};  // halves to even
+    for (int j = 7; j <= 10; ++j) EXPECT_EQ(smes.VLRConst(1, 11, j), rounded[j - 7]);
+    EXPECT_EQ(errorNumber([&] { smes.VLRConst(1, 11, 7, 40000); }), 6);
+    EXPECT_EQ(errorNumber([&] { smes.VLRConst(1, 11, 1, 1e300); }), 6);
+    // A definition counts as not loaded, so the next load takes the writing back, as built.
+    smes.Inivlr();
+    EXPECT_EQ(smes.VLRConst(1, 11, 7), 7.0F);
+}
 
 TEST(Creation, setsTheDefaultsAndOpensNothing) {
     RecordingUserInterface boxes;
@@ -56,35 +79,5 @@ TEST(Settings, ignoreWhatTheyShould) {
     }
 }
 
-TEST(CorrelationItems, areReadAndWritten) {
-    TLatka record = sampleSubstance(1, "Voda");
-    record.Korelace[10] = {{1, 2, 3, 4, 5, 6}, 7, 8, 9, 10};
-    SampleMixture mixture({record});
-    Smes& smes = mixture.smes;
-    EXPECT_EQ(smes.VLRConst(1, 1, 1), -9999.0F);  // nothing defined yet
-    smes.DefSlozky(List({1}));
-    for (int j = 1; j <= 10; ++j) EXPECT_EQ(smes.VLRConst(1, 11, j), static_cast<float>(j));
-    for (const int j : {0, 11, -1}) EXPECT_EQ(smes.VLRConst(1, 1, j), 0.0F);
-    for (const auto& [i, k] : {std::pair{0, 1}, {2, 1}, {1, 0}, {1, 12}}) {
-        EXPECT_EQ(smes.VLRConst(i, k, 1), -9999.0F);
-        mixture.boxes.messages.clear();
-        smes.VLRConst(i, k, 1, 5);
-        EXPECT_EQ(mixture.boxes.messages,
-                  (std::vector<Message>{{"VLRConst( ) - chybné zadání!", Icon::Exclamation, "VELOR"}}));
-    }
-    for (int j = 1; j <= 10; ++j) smes.VLRConst(1, 11, j, 2.5 + j);
-    for (int j = 1; j <= 6; ++j) EXPECT_EQ(smes.VLRConst(1, 11, j), 2.5F + static_cast<float>(j));
-    const float rounded[] = {10, 10, 12, 12};  // halves to even
-    for (int j = 7; j <= 10; ++j) EXPECT_EQ(smes.VLRConst(1, 11, j), rounded[j - 7]);
-    smes.VLRConst(1, 11, 11, 1);
-    EXPECT_EQ(errorNumber([&] { smes.VLRConst(1, 11, 7, 40000); }), 6);
-    EXPECT_EQ(errorNumber([&] { smes.VLRConst(1, 11, 1, 1e300); }), 6);
-    EXPECT_EQ(errorNumber([&] { smes.VLRConst(1, 11, 1, "x"); }), 13);
-    EXPECT_EQ(smes.VLRConst(1, 11, 7), 10.0F);
-    // A definition counts as not loaded, so the next load takes the writing back, as built.
-    smes.Inivlr();
-    EXPECT_EQ(smes.VLRConst(1, 11, 7), 7.0F);
-}
-
 }  // namespace
-}  // namespace velor
+}  // namespace velor::test

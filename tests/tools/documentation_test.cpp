@@ -2,85 +2,52 @@
 #include <gtest/gtest.h>
 
 #include <map>
+#include <regex>
 #include <string>
-#include <string_view>
-#include <type_traits>
 #include <variant>
-#include <vector>
 
 #include "database/record_layout.h"
-#include "runtime/text.h"
 #include "support/temporary_folder.h"
 
 namespace velor {
 namespace {
 
-struct PageRow {
-    std::size_t offset;
-    std::size_t size;
-    std::string kind;
-    bool operator==(const PageRow&) const = default;
-};
+using Table = std::map<std::string, std::string>;  // "offset size kind" by field
 
-void PrintTo(const PageRow& row, std::ostream* out) { *out << row.offset << "/" << row.size << "/" << row.kind; }
-
-std::vector<std::string> cellsOf(std::string_view line) {
-    std::vector<std::string> cells;
-    line.remove_prefix(1);
-    for (std::size_t bar = line.find('|'); bar != std::string_view::npos; bar = line.find('|')) {
-        cells.emplace_back(trimBlanks(line.substr(0, bar)));
-        line.remove_prefix(bar + 1);
-    }
-    return cells;
+std::string row(std::size_t offset, std::size_t size, std::string_view kind) {
+    return std::to_string(offset) + " " + std::to_string(size) + " " + std::string(kind);
 }
 
-// Rows "| offset | size | kind | `field` | ..." of the page below a heading, by field.
-std::map<std::string, PageRow> pageTable(std::string_view heading) {
-    const std::string page = test::readFile(VELOR_DOCS "/record-format.md");
-    std::map<std::string, PageRow> table;
-    const std::size_t start = page.find(heading);
-    EXPECT_NE(start, std::string::npos) << heading;
-    if (start == std::string::npos) return table;
-    std::string_view rest = std::string_view(page).substr(start + heading.size());
-    rest = rest.substr(0, rest.find("\n## "));
-    while (!rest.empty()) {
-        const std::string_view line = rest.substr(0, rest.find('\n'));
-        rest.remove_prefix(std::min(line.size() + 1, rest.size()));
-        if (!line.starts_with("| ") || line[2] < '0' || line[2] > '9') continue;
-        const auto cells = cellsOf(line);
-        std::string field = cells.at(3);
+// Rows "| offset | size | kind | `field` | ..." of the page below a heading.
+Table pageTable(const std::string& heading) {
+    std::string page = test::readFile(VELOR_DOCS "/record-format.md");
+    page.erase(0, page.find("## " + heading) + 3);
+    page.resize(std::min(page.size(), page.find("\n## ")));
+    const std::regex pattern(R"(\n\| (\d+) +\| (\d+) +\| (\w+) +\| ([^|]*[^| ]) *\|)");
+    Table table;
+    for (std::sregex_iterator at(page.begin(), page.end(), pattern), end; at != end; ++at) {
+        std::string field = at->str(4);
         std::erase(field, '`');
-        table[field] = {std::stoul(cells.at(0)), std::stoul(cells.at(1)), cells.at(2)};
+        table[field] = at->str(1) + " " + at->str(2) + " " + at->str(3);
     }
     return table;
 }
 
 std::string kindOf(const RecordMember& member) {
-    return std::visit(
-        [](auto pointer) -> std::string {
-            using Field = std::remove_reference_t<decltype(std::declval<TLatka&>().*pointer)>;
-            if constexpr (std::is_same_v<Field, std::int16_t>) return "int16";
-            if constexpr (std::is_same_v<Field, std::int32_t>) return "int32";
-            if constexpr (std::is_same_v<Field, float>) return "single";
-            return "text";
-        },
-        member);
+    const auto holds = [&](auto pointer) { return std::holds_alternative<decltype(pointer)>(member); };
+    if (holds(&TLatka::Cislo)) return "int16";
+    if (holds(&TLatka::CAS)) return "int32";
+    return holds(&TLatka::Mv) ? "single" : "text";
 }
 
-TEST(RecordPage, recordTableIsTheLayout) {
-    std::map<std::string, PageRow> layout;
+TEST(RecordPage, tellsTheLayout) {
+    Table record{{"Korelace(1..11)", row(kBlocksOffset, TLatka::kCorrelations * kBlockSize, "blocks")}};
     for (const RecordField& field : kRecordFields)
-        layout[std::string(field.name)] = {field.offset, field.size, kindOf(field.member)};
-    layout["Korelace(1..11)"] = {kBlocksOffset, TLatka::kCorrelations * kBlockSize, "blocks"};
-    EXPECT_EQ(pageTable("## Record"), layout);
-}
-
-TEST(RecordPage, blockTableIsTheLayout) {
-    std::map<std::string, PageRow> layout;
-    layout["A1..A6"] = {0, kCoefficients * sizeof(float), "singles"};
-    for (const BlockField& field : kBlockFields)
-        layout[std::string(field.name)] = {field.offset, sizeof(std::int16_t), "int16"};
-    EXPECT_EQ(pageTable("## Correlation block"), layout);
+        record[std::string(field.name)] = row(field.offset, field.size, kindOf(field.member));
+    EXPECT_EQ(pageTable("Record"), record);
+    Table block{{"A1..A6", row(0, kCoefficients * sizeof(float), "singles")}};
+    for (const BlockField& field : kBlockFields) block[std::string(field.name)] = row(field.offset, 2, "int16");
+    EXPECT_EQ(pageTable("Correlation block"), block);
 }
 
 }  // namespace
