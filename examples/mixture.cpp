@@ -1,0 +1,23 @@
+// Ethanol and water, two parts to three by moles: the boiling point at atmospheric pressure as an ideal mixture, and
+// the density of the liquid at room temperature.
+#include <velor/smes.h>
+
+#include <cmath>
+#include <iostream>
+
+int main() {
+    velor::Smes mixture;
+    mixture.DefSlozky(velor::List({235, 1}));
+    if (mixture.Inivlr().toInt16() != 2) return 1;
+    const velor::Variant fractions = velor::Fractions({0.4, 0.6});
+
+    const velor::Variant boilingPoint = mixture.TBV(101325.0, fractions);  // Empty after an error
+    const velor::Variant density = mixture.ROLW(293.15, fractions);
+    if (boilingPoint.isEmpty() || density.isEmpty()) return 1;
+    std::cout << "boiling point " << std::lround(boilingPoint.toDouble()) << " K\n"
+              << "density " << std::lround(density.toDouble()) << " kg/m3\n";
+}
+
+// It prints:
+// > boiling point 362 K
+// > density 867 kg/m3
