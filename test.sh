@@ -15,12 +15,12 @@ run_tests() {
 
 # Czech as a locale of our own build folder, so that the system is left as it is.
 make_czech_locale() {
-    export LOCPATH=$root/build/locales
-    mkdir -p "$LOCPATH"
-    [ -d "$LOCPATH/cs_CZ.UTF-8" ] || quietly localedef -i cs_CZ -f UTF-8 "$LOCPATH/cs_CZ.UTF-8"
-    [ "$(LC_ALL=cs_CZ.UTF-8 locale decimal_point)" = , ] || { echo "české prostředí se nepodařilo připravit" >&2; exit 1; }
+    mkdir -p "$locales"
+    [ -d "$locales/cs_CZ.UTF-8" ] || quietly localedef -i cs_CZ -f UTF-8 "$locales/cs_CZ.UTF-8"
+    [ "$(LOCPATH=$locales LC_ALL=cs_CZ.UTF-8 locale decimal_point)" = , ] || { echo "české prostředí se nepodařilo připravit" >&2; exit 1; }
 }
 
+locales=$root/build/locales
 install_packages "${needed_to_build[@]}" locales pkg-config
 make_czech_locale
 
@@ -28,8 +28,9 @@ echo "== release, C"
 build release
 LC_ALL=C run_tests release
 echo "== release, cs_CZ.UTF-8, a time zone east of Greenwich by 12:45"
-LC_ALL=cs_CZ.UTF-8 TZ='<+1245>-12:45' run_tests release -E '^package\.'
+LOCPATH=$locales LC_ALL=cs_CZ.UTF-8 TZ='<+1245>-12:45' run_tests release -E '^package\.'
 
+# Without the check of alignment, which GCC 12 gets wrong for a call through a pointer to member.
 echo "== asan"
 build asan
 LC_ALL=C run_tests asan

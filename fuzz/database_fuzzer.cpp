@@ -37,7 +37,7 @@ void askPure(Smes& smes, const Settings& settings, double oddTemperature) {
     for (int i = 1; i <= settings.components(); ++i) {
         fuzz::askConstants(smes, i);
         for (int k = 0; k <= 12; ++k)
-            for (const double T : {1e-300, 1.0, 273.15, 373.15, 1500.0, 1e300, -1.0, 0.0, oddTemperature})
+            for (const double T : {1e-300, 1.0, 273.15, 373.15, 1500.0, 1e300, -1e300, -1.0, 0.0, oddTemperature})
                 fuzz::tryCall("FFce", [&] { return smes.FFce(T, i, k); });
     }
 }

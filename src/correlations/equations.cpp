@@ -199,8 +199,8 @@ double waterDensity(double T) {
     const double c = std::cbrt(tau);                            // every exponent is a multiple of 1/3
     const double c2 = c * c, c5 = c2 * c2 * c, c16 = c5 * c5 * c5 * c;
     const double c32 = c16 * c16, c43 = c32 * c5 * c5 * c, c110 = c43 * c43 * c16 * c5 * c2 * c;
-    return 322.0 * (1.0 + 1.99274064 * c + 1.09965342 * c2 - 0.510839303 * c5 - 1.7549379 * c16 - 45.5170352 * c43 -
-                    674694.45 * c110);
+    return finite(322.0 * (1.0 + 1.99274064 * c + 1.09965342 * c2 - 0.510839303 * c5 - 1.7549379 * c16 -
+                           45.5170352 * c43 - 674694.45 * c110));
 }
 
 }  // namespace velor
