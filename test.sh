@@ -30,7 +30,7 @@ LC_ALL=C run_tests release
 echo "== release, cs_CZ.UTF-8, a time zone east of Greenwich by 12:45"
 LOCPATH=$locales LC_ALL=cs_CZ.UTF-8 TZ='<+1245>-12:45' run_tests release -E '^package\.'
 
-# Without the check of alignment, which GCC 12 gets wrong for a call through a pointer to member.
+# Without the checks of alignment and vptr, which GCC 12 gets wrong for a call through a pointer to member.
 echo "== asan"
 build asan
 LC_ALL=C run_tests asan

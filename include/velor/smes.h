@@ -192,7 +192,7 @@ class Smes {
     // Property k (1 ETAG, 2 CPG, 3 ALAG, 4 ROLW, 5 ETAL, 6 ALAL, 7 CPL, 8 DHV, 9 TENS, 10 SIGMA) of component i at T
     // kelvin, in the database's units: Pa s, J/(mol K), W/(m K), kg/m3, Pa s, W/(m K), J/(mol K), J/mol, Pa, N/m.
     // Above the critical temperature the properties from 5 on are evaluated at 0.98 of it, on purpose. Water's
-    // density is the saturated-liquid equation of IAPWS (Wagner and Pruss, 1993) with two coefficients of our own.
+    // density is the saturated-liquid equation of IAPWS (Wagner and Pruss, 1993) with one coefficient of our own.
     // A rejected k or i gives 0; an invalid equation type or an error in the evaluation gives 1E-8. Raises
     // kRaisedToHost for the last two while ChyboveHlasky is -1.
     Variant FFce(const Variant& T, int i, int k);

@@ -31,6 +31,7 @@ class Variant {
     Variant(std::string value) : value_(std::move(value)) {}
     Variant(std::string_view value) : value_(std::string(value)) {}
     Variant(const char* value) : value_(std::string(value)) {}
+    Variant(char* value) : value_(std::string(value)) {}
 
     // A 32-bit integer; a larger number becomes a double.
     template <std::integral Integer>

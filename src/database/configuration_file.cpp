@@ -1,5 +1,6 @@
 #include "database/configuration_file.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "platform/file_system.h"

@@ -30,10 +30,10 @@ std::int16_t loadComponents(State& state) {
     const RecordFile database(state.AdresaBaze);
     for (int i = 1; i <= state.PocSlozek; ++i) {
         const std::int16_t number = state.slots.CisloLatky(i);
-        TLatka& record = state.slots.change(i) = database.read(number);
-        if (isUnused(record, state.ChyboveHlasky)) {
+        state.slots.change(i) = database.read(number);
+        if (isUnused(state.slots.Latka(i), state.ChyboveHlasky)) {
+            state.slots.change(i).Cislo = 0;
             show(state, "INIVLR: Látka č. " + Str(number) + " není v bázi!", Icon::Exclamation);
-            record.Cislo = 0;
             return 0;
         }
     }

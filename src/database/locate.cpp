@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::int64_t kLeastDatabaseSize = 4000;  // a shorter file is broken
 
-const std::string kBreak(kLineBreak);
+constexpr const char* kBreak = "\r\n";
 
 // From the first "." back to the separator before it: a dot in a folder's name makes the "name" begin there, as built.
 std::string fileNamePart(const std::string& path) {
@@ -80,8 +80,9 @@ void searchAndConfigure(State& state) {
     const std::string found = searchVolumes(state);
     if (found.empty()) {
         show(state,
-             "Lituji, ale nemáte nikde na dostupných discích" + kBreak + "nainstalován datový soubor báze " +
-                 state.DataFileName + kBreak + "Zajistěte jeho nainstalování!" + kBreak + "Bez něho je báze nefunkční!",
+             std::string("Lituji, ale nemáte nikde na dostupných discích") + kBreak +
+                 "nainstalován datový soubor báze " + state.DataFileName + kBreak + "Zajistěte jeho nainstalování!" +
+                 kBreak + "Bez něho je báze nefunkční!",
              Icon::Critical);
         return;
     }

@@ -31,7 +31,7 @@ constexpr double kLeastVapour = 1.0E-6;
 constexpr double kTemperatureDamping = 0.7;
 constexpr double kZeroCelsius = 273.15;
 
-const std::string kBreak(kLineBreak);
+constexpr const char* kBreak = "\r\n";
 
 // ---- What the user is asked ------------------------------------------------------------------------------------
 
@@ -68,8 +68,9 @@ std::vector<double> askFeed(State& state) {
 }
 
 double askTemperature(State& state, double Tb, double Td) {
-    const std::string prompt = "Zadat teplotu(°C):" + kBreak + "Bod varu  " + Format(Tb - kZeroCelsius, "0.0") +
-                               kBreak + "Rosný bod " + Format(Td - kZeroCelsius, "0.0");
+    const std::string prompt = std::string("Zadat teplotu(°C):") + kBreak + "Bod varu  " +
+                               Format(Tb - kZeroCelsius, "0.0") + kBreak + "Rosný bod " +
+                               Format(Td - kZeroCelsius, "0.0");
     const std::string suggestion = Format(0.3 * Tb + 0.7 * Td - kZeroCelsius, "#0.0");
     return numberIn(ask(state, prompt, "VELOR", suggestion)) + kZeroCelsius;
 }
@@ -132,7 +133,8 @@ class Flash {
         found_.outcome = outcome;
         found_.vapourFraction = V;
         show(state_, text, Icon::Exclamation);
-        report_ += text + kBreak;
+        report_ += text;
+        report_ += kBreak;
     }
 
     void iterate() {

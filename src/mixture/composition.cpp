@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <string>
+#include <vector>
 
 #include "mixture/composition_rules.h"
 #include "runtime/numbers.h"

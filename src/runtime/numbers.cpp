@@ -45,13 +45,13 @@ std::size_t numberLength(std::string_view text) {
 bool isBelowOne(std::string_view number) {
     const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
     const std::string_view mantissa = number.substr(0, mark);
-    const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));
-    const auto firstDigit = static_cast<long>(mantissa.find_first_of("123456789"));
-    const long order = firstDigit < point ? point - firstDigit : point - firstDigit + 1;
+    const auto point = static_cast<std::int64_t>(std::min(mantissa.find('.'), mantissa.size()));
+    const auto firstDigit = static_cast<std::int64_t>(mantissa.find_first_of("123456789"));
+    const std::int64_t order = firstDigit < point ? point - firstDigit : point - firstDigit + 1;
     const bool negative = mark + 1 < number.size() && number[mark + 1] == '-';
-    long exponent = 0;
+    std::int64_t exponent = 0;
     for (const char c : number.substr(mark))
-        if (isDigit(c)) exponent = std::min(exponent * 10 + (c - '0'), 1'000'000'000L);
+        if (isDigit(c)) exponent = std::min<std::int64_t>(exponent * 10 + (c - '0'), 1'000'000'000);
     return order + (negative ? -exponent : exponent) <= 0;
 }
 

@@ -88,7 +88,7 @@ const Variant::Array& Variant::heldArray() const {
 
 const Variant& Variant::at(int index) const {
     const Array& array = heldArray();
-    const long offset = static_cast<long>(index) - array.lowerBound;
+    const std::int64_t offset = static_cast<std::int64_t>(index) - array.lowerBound;
     if (offset < 0 || static_cast<std::size_t>(offset) >= array.elements.size())
         checked::raise(RunTimeError::kSubscript);
     return array.elements[static_cast<std::size_t>(offset)];
