@@ -18,7 +18,8 @@ constexpr double kMasonSaxena = 0.35355;  // five decimals, kept, where 1/sqrt(8
 PairFactor pairFactor(float Mi, float Mj) {
     checked::divide(Mi, Mj);
     const double ratio = Mi / Mj;  // held in single precision, as built
-    return {checked::divide(1.0, checked::power(ratio, 0.25)), checked::divide(kMasonSaxena, checked::squareRoot(1.0 + ratio))};
+    return {checked::divide(1.0, checked::power(ratio, 0.25)),
+            checked::divide(kMasonSaxena, checked::squareRoot(1.0 + ratio))};
 }
 
 double gasViscosity(std::span<const double> x, std::span<const double> M, std::span<const double> eta) {
