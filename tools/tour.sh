@@ -1,6 +1,8 @@
 # The tour of run.sh: real questions to the real database, each shown before its answer.
+bold='' plain=''
+if [ -t 1 ]; then bold=$'\033[1m' plain=$'\033[0m'; fi
 ask() {
-    printf '\n\033[1m$ velor %s\033[0m\n' "$*"
+    printf '\n%s$ velor %s%s\n' "$bold" "$*" "$plain"
     "$velor" "$@"
 }
 ask ukazka ethanol -T 298.15
