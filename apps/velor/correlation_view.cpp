@@ -1,7 +1,7 @@
 #include "correlation_view.h"
 
 #include "number_text.h"
-#include "pure_property.h"
+#include "correlations/pure_property.h"
 #include "runtime/text.h"
 #include "standing_notes.h"
 
@@ -45,10 +45,9 @@ Row propertyCells(const PureProperty& property) {
     return {{std::string(property.code), {}}, {std::string(property.caption), {}}};
 }
 
-// Where the equation shown is not the one used, it has to be said.
 std::vector<std::string> waterNote(const Substance& substance) {
     if (substance.number != kWater) return {};
-    return {"Hustota vody (ROLW) se počítá rovnicí IAPWS pro nasycenou kapalinu, ne uvedeným vztahem."};
+    return {std::string(kWaterDensityNote)};
 }
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "failure.h"
-#include "folding.h"
+#include "runtime/folding.h"
 #include "runtime/text.h"
 
 namespace velor::app {

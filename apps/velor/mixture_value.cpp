@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "pure_property.h"
+#include "correlations/pure_property.h"
 #include "run_time_error_text.h"
 
 namespace velor::app {

@@ -5,7 +5,7 @@
 
 #include "mixture.h"
 #include "mixture_property.h"
-#include "standing.h"
+#include "correlations/standing.h"
 
 namespace velor::app {
 

@@ -1,5 +1,5 @@
 #include "failure.h"
-#include "folding.h"
+#include "runtime/folding.h"
 #include "options.h"
 
 namespace velor::app {

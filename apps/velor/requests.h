@@ -8,7 +8,7 @@
 
 #include "mixture_property.h"
 #include "printer.h"
-#include "pure_property.h"
+#include "correlations/pure_property.h"
 
 namespace velor::app {
 

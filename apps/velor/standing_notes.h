@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "report.h"
-#include "standing.h"
+#include "correlations/standing.h"
 
 namespace velor::app {
 

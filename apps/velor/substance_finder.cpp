@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "failure.h"
-#include "folding.h"
+#include "runtime/folding.h"
 #include "item_list.h"
 #include "runtime/text.h"
 

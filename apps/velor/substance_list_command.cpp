@@ -3,7 +3,7 @@
 
 #include "commands.h"
 #include "failure.h"
-#include "folding.h"
+#include "runtime/folding.h"
 
 namespace velor::app {
 

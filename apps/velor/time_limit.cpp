@@ -79,4 +79,19 @@ void PatientUserInterface::showForm(F_Sloz& form) {
     StreamUserInterface::showForm(form);
 }
 
+void PatientUserInterface::showForm(frmLatka& form) {
+    const TimeLimit::Pause pause(limit_);
+    StreamUserInterface::showForm(form);
+}
+
+void PatientUserInterface::showForm(F_Zmenaz& form) {
+    const TimeLimit::Pause pause(limit_);
+    StreamUserInterface::showForm(form);
+}
+
+void PatientUserInterface::showForm(frmOprav& form) {
+    const TimeLimit::Pause pause(limit_);
+    StreamUserInterface::showForm(form);
+}
+
 }  // namespace velor::app

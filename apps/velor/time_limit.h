@@ -59,6 +59,9 @@ class PatientUserInterface : public StreamUserInterface {
     void showForm(F_Sezn& form) override;
     void showForm(F_Seznam& form) override;
     void showForm(F_Sloz& form) override;
+    void showForm(frmLatka& form) override;
+    void showForm(F_Zmenaz& form) override;
+    void showForm(frmOprav& form) override;
 
     // Whether an answer was due after the end of input: then No or Back is nobody's decision.
     bool isDeserted() const { return input_.fail(); }

@@ -14,6 +14,7 @@
 #include <string>
 #include <vector>
 
+#include "velor/component_forms.h"
 #include "velor/flash_record.h"
 #include "velor/forms.h"
 #include "velor/run_time_error.h"
@@ -403,6 +404,11 @@ class Smes {
     void mZadSmes_SZavrit(const F_Seznam::CislaLatek& CislaLatek);
     void mSloz_ZavriSloz();
     void mSloz_ZpetSloz();
+    // Open the display of component i (1..count, else error 9) and the temporary change of its data. The records are
+    // loaded first, so that a change survives the next property; it lasts until the next load. A component that is
+    // missing from the database is told, and nothing is opened.
+    void mSloz_ZobrazL(int i);
+    void mSloz_ZobrazZ(int i);
 
     // ---- By name -------------------------------------------------------------------------------------------------
 

@@ -12,6 +12,9 @@ namespace velor {
 class F_Sezn;
 class F_Seznam;
 class F_Sloz;
+class frmLatka;
+class F_Zmenaz;
+class frmOprav;
 
 enum class Icon { None, Critical, Exclamation, Information };
 enum class Buttons { Ok, YesNo };
@@ -47,6 +50,9 @@ class UserInterface {
     virtual void showForm(F_Sezn& form) = 0;
     virtual void showForm(F_Seznam& form) = 0;
     virtual void showForm(F_Sloz& form) = 0;
+    virtual void showForm(frmLatka& form) = 0;
+    virtual void showForm(F_Zmenaz& form) = 0;
+    virtual void showForm(frmOprav& form) = 0;
 
   protected:
     UserInterface() = default;
@@ -66,6 +72,9 @@ class StreamUserInterface : public UserInterface {
     void showForm(F_Sezn& form) override;
     void showForm(F_Seznam& form) override;
     void showForm(F_Sloz& form) override;
+    void showForm(frmLatka& form) override;
+    void showForm(F_Zmenaz& form) override;
+    void showForm(frmOprav& form) override;
 
   private:
     bool readLine(std::string& line);  // false at the end of input
@@ -86,12 +95,18 @@ class RecordingUserInterface : public UserInterface {
     std::deque<std::function<void(F_Sezn&)>> nextListActions;
     std::deque<std::function<void(F_Seznam&)>> nextComponentActions;
     std::deque<std::function<void(F_Sloz&)>> nextCompositionActions;
+    std::deque<std::function<void(frmLatka&)>> nextDisplayActions;
+    std::deque<std::function<void(F_Zmenaz&)>> nextChangeActions;
+    std::deque<std::function<void(frmOprav&)>> nextCorrectionActions;
 
     Answer showMessage(const Message& message) override;
     std::string askText(const InputRequest& request) override;
     void showForm(F_Sezn& form) override;
     void showForm(F_Seznam& form) override;
     void showForm(F_Sloz& form) override;
+    void showForm(frmLatka& form) override;
+    void showForm(F_Zmenaz& form) override;
+    void showForm(frmOprav& form) override;
 };
 
 }  // namespace velor

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <string>
 
+#include "database/constant_table.h"
 #include "runtime/numbers.h"
 #include "velor/smes.h"
 
@@ -10,7 +11,6 @@ namespace velor {
 
 namespace {
 
-constexpr double kNoConstant = -9999.0;
 constexpr int kFieldWidth = 12;
 
 const char* displayPattern(double magnitude) {

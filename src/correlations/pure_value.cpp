@@ -3,6 +3,7 @@
 #include <string>
 
 #include "correlations/equations.h"
+#include "correlations/pure_property.h"
 #include "runtime/numbers.h"
 #include "runtime/windows_1250.h"
 #include "smes/messages.h"
@@ -15,7 +16,6 @@ namespace {
 constexpr int kProperties = 10;
 constexpr double kLeastCriticalTemperature = 15.0;  // helium's and unknown ones do not clamp
 constexpr double kBelowCritical = 0.98;
-constexpr std::int16_t kWater = 1;  // substance 1 of the database is water, by rule
 
 bool exists(const State& state, int i, int k) { return k >= 1 && k <= kProperties && i >= 1 && i <= state.PocSlozek; }
 
@@ -108,32 +108,8 @@ double FFce(State& state, const Temperature& T, int i, int k) {
 }
 
 std::string_view propertyName(int k) {
-    switch (k) {
-        case kETAG:
-            return "ETAG";
-        case kCPG:
-            return "CPG";
-        case kALAG:
-            return "ALAG";
-        case kROLW:
-            return "ROLW";
-        case kETAL:
-            return "ETAL";
-        case kALAL:
-            return "ALAL";
-        case kCPL:
-            return "CPL";
-        case kDHV:
-            return "DHV";
-        case kTENS:
-            return "TENS";
-        case kSIGMA:
-            return "SIGMA";
-        case 11:
-            return "Rezerva";
-        default:
-            return "Nedef. ";
-    }
+    if (k >= 1 && k <= kProperties) return pureProperties()[static_cast<std::size_t>(k - 1)].code;
+    return k == TLatka::kCorrelations ? "Rezerva" : "Nedef. ";
 }
 
 Variant Smes::FFce(const Variant& T, int i, int k) {

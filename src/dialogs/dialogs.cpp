@@ -60,12 +60,18 @@ void createForms(State& state) {
     createListForm(state);
     state.componentsForm = std::make_unique<F_Seznam>();
     state.compositionForm = std::make_unique<F_Sloz>();
+    state.displayForm = std::make_unique<frmLatka>();
+    state.changeForm = std::make_unique<F_Zmenaz>();
+    state.correctionForm = std::make_unique<frmOprav>();
 }
 
 void releaseForms(State& state) {
     state.listForm.reset();
     state.componentsForm.reset();
     state.compositionForm.reset();
+    state.displayForm.reset();
+    state.changeForm.reset();
+    state.correctionForm.reset();
 }
 
 void Smes::AkSeznam() { rebuildSubstanceList(*state_); }

@@ -4,6 +4,7 @@
 #include <ostream>
 #include <string>
 
+#include "dialogs/captions.h"
 #include "runtime/text.h"
 #include "velor/forms.h"
 #include "velor/user_interface.h"
@@ -14,12 +15,6 @@ namespace {
 
 bool isNumber(const std::string& text) {
     return !text.empty() && std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; });
-}
-
-// Captions carry the mark of their accelerator key, which a line of text has no use for.
-std::string withoutMark(std::string caption) {
-    std::erase(caption, '&');
-    return caption;
 }
 
 void typeInto(F_Seznam& form, const std::string& number) {
@@ -46,6 +41,15 @@ void listMatches(const F_Seznam& form, const std::string& text, std::ostream& ou
 
 void tellOption(const F_Sloz& form, std::ostream& out) {
     out << form.Nadpiss << ": " << (form.O_Mol ? form.O_MolCaption : form.O_HmotCaption) << '\n';
+}
+
+// The index of the component in "L 2" or "D 2"; -1 in anything else.
+int namedComponent(const F_Sloz& form, const std::string& command) {
+    if (!command.starts_with("L ") && !command.starts_with("D ")) return -1;
+    const std::string number(trimBlanks(command.substr(1)));
+    for (int i = 0; i < form.components; ++i)
+        if (number == std::to_string(i + 1)) return i;
+    return -1;
 }
 
 }  // namespace
@@ -95,6 +99,7 @@ void StreamUserInterface::showForm(F_Sloz& form) {
               << "  číslo  složení složky; samotný Enter ponechá hodnotu v závorce\n"
               << "  m      " << form.O_MolCaption << ", znovu od první složky\n"
               << "  h      " << form.O_HmotCaption << ", znovu od první složky\n"
+              << "  l 2    zobrazí složku č. 2, d 2 dočasně změní její údaje\n"
               << "  z      " << withoutMark(form.C_ZpetCaption) << '\n';
     tellOption(form, messages_);
     int i = 0;
@@ -117,6 +122,8 @@ void StreamUserInterface::showForm(F_Sloz& form) {
             command == "M" ? form.clickO_Mol() : form.clickO_Hmot();
             tellOption(form, messages_);
             i = form.focus.index;
+        } else if (const int named = namedComponent(form, command); named >= 0) {
+            form.mouseOnName(named, command.front() == 'L' ? 1 : 2);
         } else if (!complete) {
             if (!line.empty()) form.setText(i, line);
             form.keyPressed(i, kEnterKey);

@@ -4,18 +4,12 @@
 #include <cstddef>
 #include <utility>
 
-#include "runtime/checked.h"
+#include "dialogs/boxes.h"
 #include "runtime/numbers.h"
 
 namespace velor {
 
 namespace {
-
-template <class Boxes>
-auto& boxAt(Boxes& boxes, int index) {
-    if (index < 0 || static_cast<std::size_t>(index) >= boxes.size()) checked::raise(RunTimeError::kSubscript);
-    return boxes[static_cast<std::size_t>(index)];
-}
 
 bool isDigitOrControl(int key) { return key < 32 || (key >= 48 && key <= 57); }
 

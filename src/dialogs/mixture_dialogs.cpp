@@ -133,6 +133,8 @@ void Smes::ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant&, const V
         const bool acceptable = prepareForm(state, form, X, W, mode);
         form.ZavriSloz = [this] { mSloz_ZavriSloz(); };
         form.ZpetSloz = [this] { mSloz_ZpetSloz(); };
+        form.ZobrazL = [this](int component) { mSloz_ZobrazL(component); };
+        form.ZobrazZ = [this](int component) { mSloz_ZobrazZ(component); };
         form.visible = true;
         state.userInterface->showForm(form);
         if (state.PocSlozek == kBackMarker) {

@@ -3,6 +3,7 @@
 #include <cstdlib>
 #include <utility>
 
+#include "database/constant_table.h"
 #include "database/load.h"
 #include "database/record_layout.h"
 #include "runtime/numbers.h"
@@ -125,7 +126,7 @@ bool addressesConstant(const State& state, int i, int k) {
 }  // namespace
 
 float Smes::Bod(int i, int k) const {
-    if (!addressesConstant(*state_, i, k)) return -9999;
+    if (!addressesConstant(*state_, i, k)) return kNoConstant;
     const float constant = state_->slots.Latka(i).*constantMember(k);
     checked::finite(constant);
     return constant;

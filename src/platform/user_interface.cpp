@@ -5,6 +5,7 @@
 
 #include "runtime/checked.h"
 #include "runtime/text.h"
+#include "velor/component_forms.h"
 #include "velor/forms.h"
 
 namespace velor {
@@ -88,6 +89,9 @@ void act(Form& form, std::deque<std::function<void(Form&)>>& actions) {
 void RecordingUserInterface::showForm(F_Sezn& form) { act(form, nextListActions); }
 void RecordingUserInterface::showForm(F_Seznam& form) { act(form, nextComponentActions); }
 void RecordingUserInterface::showForm(F_Sloz& form) { act(form, nextCompositionActions); }
+void RecordingUserInterface::showForm(frmLatka& form) { act(form, nextDisplayActions); }
+void RecordingUserInterface::showForm(F_Zmenaz& form) { act(form, nextChangeActions); }
+void RecordingUserInterface::showForm(frmOprav& form) { act(form, nextCorrectionActions); }
 
 Answer RecordingUserInterface::showMessage(const Message& message) {
     messages.push_back(message);

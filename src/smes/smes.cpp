@@ -3,6 +3,7 @@
 
 #include <utility>
 
+#include "database/constant_table.h"
 #include "database/locate.h"
 #include "platform/file_system.h"
 #include "platform/system.h"
@@ -14,7 +15,6 @@ namespace velor {
 
 namespace {
 
-constexpr float kNoConstant = -9999;
 
 std::unique_ptr<State> newState(UserInterface& userInterface) {
     auto state = std::make_unique<State>();

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "runtime/checked.h"
+#include "velor/component_forms.h"
 #include "velor/flash_record.h"
 #include "velor/forms.h"
 #include "velor/record.h"
@@ -128,6 +129,9 @@ struct State {
     std::unique_ptr<F_Sezn> listForm;
     std::unique_ptr<F_Seznam> componentsForm;
     std::unique_ptr<F_Sloz> compositionForm;
+    std::unique_ptr<frmLatka> displayForm;
+    std::unique_ptr<F_Zmenaz> changeForm;
+    std::unique_ptr<frmOprav> correctionForm;
     RealGasState realGas;
     std::shared_ptr<PreparedGas> preparedGas;
     std::shared_ptr<PreparedGasMixing> preparedGasMixing;

@@ -15,6 +15,7 @@ const std::string kComposition =
     "  číslo  složení složky; samotný Enter ponechá hodnotu v závorce\n"
     "  m      Molově, znovu od první složky\n"
     "  h      Hmotově, znovu od první složky\n"
+    "  l 2    zobrazí složku č. 2, d 2 dočasně změní její údaje\n"
     "  z      Zpět\n";
 
 struct Questions : ::testing::Test {
@@ -78,6 +79,25 @@ TEST_F(Questions, enterAComposition) {
     EXPECT_EQ(shown, kComposition +
                          "Složení: Molově\n  Voda [1.0]:   Éter [1.0]: Pokračovat [Enter]: Pokračovat [Enter]: "
                          "Složení: Hmotově\n  Voda [2]:   Éter [1.0]: Pokračovat [Enter]: Pokračovat [Enter]: ");
+}
+
+TEST_F(Questions, displayAndChangeAComponent) {
+    const std::string display = "l 3\nl 2\nTENS\n300\nteplo\nz\n";
+    const std::string change = "d 2\n2 = \n6 = -1\nok\n6=510\nd\ntens\n2 = 10\nt = 301\nok\n";
+    const std::string shown = session(display + change + "1\n1\n\n", [&](Smes& smes) {
+        smes.DefSmes(2, Fractions({1, 2}));
+        smes.ZadejSloz(n, X, W, "", 1);
+        EXPECT_EQ(smes.Synonym(2).toText(), std::string(30, ' '));
+        EXPECT_EQ(smes.Bod(2, 2), 510.0F);
+        EXPECT_EQ(smes.VLRConst(2, 9, 1), 10.0F);
+    });
+    for (const char* part :
+         {"Voda [1.0]: Zobrazení složky č. 2: Éter\n", "  kritická teplota                  500.00 K\n",
+          "TENS (300 K): 309.0 Pa\n> (!) VELOR: Teplota: zadejte kladné číslo v kelvinech.\nTENS (300 K): 309.0 Pa\n",
+          "> (!) VELOR: Pole „kritická teplota“: zadejte kladné číslo, nebo nic.\n>   6  kritická teplota [K]",
+          "  2  A1                             10\n", "  Před změnou:                      310.0 Pa\n",
+          "  Po změně:                         311.0 Pa\n> "})
+        EXPECT_NE(shown.find(part), std::string::npos) << part << shown;
 }
 
 TEST_F(Questions, endWhereNobodyAnswers) {

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "baze/values.h"
+#include "database/field_text.h"
 #include "correlations/equations.h"
 #include "correlations/pure_value.h"
 #include "real_data.h"
@@ -48,8 +48,8 @@ double vapourPressure(const TLatka& record, double T) {
 TEST(Constants, registryNumbersAreValidAndDifferent) {
     std::set<std::int32_t> seen;
     for (const auto& [number, record] : test::realRecords()) {
-        const std::string text = baze::casText(record.CAS);
-        EXPECT_TRUE(baze::hasCasForm(text) && baze::hasCasCheckDigit(text) && seen.insert(record.CAS).second)
+        const std::string text = casText(record.CAS);
+        EXPECT_TRUE(hasCasForm(text) && hasCasCheckDigit(text) && seen.insert(record.CAS).second)
             << test::label(record) << ' ' << text;
     }
 }
@@ -57,7 +57,7 @@ TEST(Constants, registryNumbersAreValidAndDifferent) {
 TEST(Constants, molarMassIsThatOfTheFormula) {
     for (const auto& [number, record] : test::realRecords()) {
         if (number == test::kAir) continue;
-        const std::string formula = baze::bytesText({record.Vzorec.data(), record.Vzorec.size()});
+        const std::string formula = bytesText({record.Vzorec.data(), record.Vzorec.size()});
         EXPECT_NEAR(record.Mv * 1000.0 / molarMass(formula), 1.0, 2e-4) << test::label(record) << " " << formula;
     }
 }

@@ -10,7 +10,7 @@
 
 #include "baze/csv_table.h"
 #include "baze/row_reader.h"
-#include "baze/values.h"
+#include "database/field_text.h"
 #include "correlations/equations.h"
 #include "correlations/pure_value.h"
 

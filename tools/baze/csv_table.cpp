@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "baze/values.h"
+#include "database/field_text.h"
 
 namespace velor::baze {
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "baze/values.h"
+#include "database/field_text.h"
 
 namespace velor::baze {
 

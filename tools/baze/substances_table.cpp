@@ -9,7 +9,7 @@
 
 #include "baze/csv_table.h"
 #include "baze/row_reader.h"
-#include "baze/values.h"
+#include "database/field_text.h"
 #include "database/record_layout.h"
 #include "runtime/text.h"
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace velor::baze {
+namespace velor {
 
 // A decimal number, rounded to single precision; "#" and eight hexadecimal digits are the bits of a value that is not
 // finite.
@@ -34,4 +34,4 @@ bool isControlByte(char byte);
 // A cell's text in a message: in quotes, cut where it is long, harmless to a terminal.
 std::string quoted(std::string_view cell);
 
-}  // namespace velor::baze
+}  // namespace velor

@@ -1,4 +1,4 @@
-#include "folding.h"
+#include "runtime/folding.h"
 
 #include <algorithm>
 #include <numeric>
@@ -6,7 +6,7 @@
 
 #include "runtime/text.h"
 
-namespace velor::app {
+namespace velor {
 
 namespace {
 
@@ -59,4 +59,4 @@ std::size_t editDistance(std::string_view one, std::string_view other) {
     return row.back();
 }
 
-}  // namespace velor::app
+}  // namespace velor

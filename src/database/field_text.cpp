@@ -1,4 +1,4 @@
-#include "baze/values.h"
+#include "database/field_text.h"
 
 #include <algorithm>
 #include <bit>
@@ -10,7 +10,7 @@
 #include "runtime/text.h"
 #include "runtime/windows_1250.h"
 
-namespace velor::baze {
+namespace velor {
 
 namespace {
 
@@ -196,4 +196,4 @@ std::string quoted(std::string_view cell) {
     return text + "“";
 }
 
-}  // namespace velor::baze
+}  // namespace velor

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string_view>
 
-namespace velor::app {
+namespace velor {
 
 // How a value stands to the correlations it comes from, or why there is none. Those that come later weigh more.
 enum class Standing { InRange, Extrapolated, AtBound, BelowCritical, NotGiven, BeyondReference, Diverged, Failed };
@@ -24,4 +24,4 @@ std::string_view standingMark(Standing standing);
 // What the sign means, or why there is no value; a Czech sentence.
 std::string_view standingNote(Standing standing);
 
-}  // namespace velor::app
+}  // namespace velor

@@ -1,6 +1,6 @@
-#include "standing.h"
+#include "correlations/standing.h"
 
-namespace velor::app {
+namespace velor {
 
 std::string_view standingWord(Standing standing) {
     switch (standing) {
@@ -68,4 +68,4 @@ std::string_view standingNote(Standing standing) {
     return "";
 }
 
-}  // namespace velor::app
+}  // namespace velor

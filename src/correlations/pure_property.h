@@ -4,15 +4,18 @@
 #include <span>
 #include <string_view>
 
-#include "standing.h"
+#include "correlations/standing.h"
 #include "velor/smes.h"
 
-namespace velor::app {
+namespace velor {
 
 // Items of Smes::VLRConst behind the six coefficients.
 inline constexpr int kTyp = 7, kPriznak = 8, kTmin = 9, kTmax = 10;
 
 inline constexpr int kWater = 1;  // substance 1 of the database is water, by rule
+// Where the equation shown is not the one used, it has to be said.
+inline constexpr std::string_view kWaterDensityNote =
+    "Hustota vody (ROLW) se počítá rovnicí IAPWS pro nasycenou kapalinu, ne uvedeným vztahem.";
 
 struct PureProperty {
     int number;  // as Smes::FFce knows it
@@ -31,4 +34,4 @@ PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& prop
 
 bool isGiven(const Smes& smes, int slot, int property);
 
-}  // namespace velor::app
+}  // namespace velor

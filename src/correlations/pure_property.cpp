@@ -1,4 +1,4 @@
-#include "pure_property.h"
+#include "correlations/pure_property.h"
 
 #include <algorithm>
 #include <array>
@@ -6,7 +6,7 @@
 #include "correlations/equations.h"
 #include "runtime/text.h"
 
-namespace velor::app {
+namespace velor {
 
 namespace {
 
@@ -63,4 +63,4 @@ PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& prop
     }
 }
 
-}  // namespace velor::app
+}  // namespace velor

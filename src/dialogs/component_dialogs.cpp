@@ -1,0 +1,124 @@
+// The display of a component and the temporary change of its data, both opened from the composition.
+#include <string>
+#include <utility>
+
+#include "correlations/equations.h"
+#include "correlations/pure_property.h"
+#include "database/field_text.h"
+#include "database/load.h"
+#include "dialogs/boxes.h"
+#include "dialogs/component_texts.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "runtime/windows_1250.h"
+#include "smes/messages.h"
+#include "smes/state.h"
+#include "velor/smes.h"
+
+namespace velor {
+
+namespace {
+
+// Whether component i is loaded; what is missing from the database has been told.
+bool isAtHand(State& state, int i) {
+    const int count = loadComponents(state);
+    if (count == 0 && state.PocSlozek > 0) return false;
+    if (i < 1 || i > count) checked::raise(RunTimeError::kSubscript);
+    return true;
+}
+
+template <std::size_t Width>
+std::string trimmed(const std::array<char, Width>& field) {
+    return std::string(trimBlanks(decodeWindows1250({field.data(), field.size()})));
+}
+
+std::string captionOf(const State& state, int i, const std::string& what) {
+    return " " + what + " složky č. " + std::to_string(i) + ": " + trimmed(state.slots.Latka(i).Nazev);
+}
+
+// Property k of component i with its unit and what has to be known about it, or why there is none.
+std::string valueText(Smes& smes, double T, int i, int k) {
+    const PureProperty& property = pureProperties()[static_cast<std::size_t>(k - 1)];
+    const PropertyValue value = pureValue(smes, T, i, property);
+    if (!value.isComputed()) return std::string(standingNote(value.standing));
+    std::string text = std::string(trimBlanks(Smes::GFormat(value.value))).append(" ").append(property.unit);
+    const std::string_view note = standingNote(value.standing);
+    return note.empty() ? text : text.append("   ").append(note);
+}
+
+// Another correlation in the place of a component's own, as long as this object lives.
+class BorrowedBlock {
+  public:
+    BorrowedBlock(State& state, int i, int k, const TKorelace& block)
+        : state_(state), i_(i), k_(static_cast<std::size_t>(k - 1)), own_(std::exchange(place(), block)) {}
+    ~BorrowedBlock() { place() = own_; }
+    BorrowedBlock(const BorrowedBlock&) = delete;
+    BorrowedBlock& operator=(const BorrowedBlock&) = delete;
+
+  private:
+    TKorelace& place() { return state_.slots.change(i_).Korelace[k_]; }
+
+    State& state_;
+    int i_;
+    std::size_t k_;
+    TKorelace own_;
+};
+
+void fill(frmLatka& form, const State& state, int i) {
+    const TLatka& record = state.slots.Latka(i);
+    form.caption = captionOf(state, i, "Zobrazení");
+    form.Nazev = trimmed(record.Nazev);
+    form.Synonym = trimmed(record.Synonym);
+    form.Vzorec = trimmed(record.Vzorec);
+    form.CAS = record.CAS > 0 ? "[" + casText(record.CAS) + "]" : std::string();
+    form.Konstanty = constantTexts(record);
+    form.Korelace = correlationTexts(record);
+    form.L_Vlast.items = propertyLines();
+}
+
+}  // namespace
+
+void Smes::mSloz_ZobrazL(int i) {
+    State& state = *state_;
+    if (!isAtHand(state, checkedInt16(i))) return;
+    frmLatka& form = *state.displayForm;
+    fill(form, state, i);
+    form.showExclamation = [&state](const std::string& text) { show(state, text, Icon::Exclamation); };
+    form.zavrit = [&form] { form.visible = false; };
+    form.Vypocet = [this, &form, i](int k, double T) { form.Hodnota = valueText(*this, T, i, k); };
+    form.selectProperty(0);
+    form.visible = true;
+    state.userInterface->showForm(form);
+}
+
+void Smes::mSloz_ZobrazZ(int i) {
+    State& state = *state_;
+    if (!isAtHand(state, checkedInt16(i))) return;
+    const auto exclaim = [&state](const std::string& text) { show(state, text, Icon::Exclamation); };
+    const auto use = [&state, i](const TLatka& record) {
+        state.slots.change(i) = record;
+        boxAt(state.compositionForm->L_J, i - 1) = componentName(state, i);
+    };
+    F_Zmenaz& names = *state.changeForm;
+    names.caption = captionOf(state, i, "Dočasná změna");
+    names.showExclamation = exclaim;
+    names.Ulozit = use;
+    names.load(state.slots.Latka(i));
+    names.visible = true;
+    state.userInterface->showForm(names);
+    if (!names.isDataWanted) return;
+
+    frmOprav& data = *state.correctionForm;
+    data.caption = captionOf(state, i, "Dočasná změna vlastností");
+    data.showExclamation = exclaim;
+    data.Ulozit = use;
+    data.valueText = [this, i](int k, const TKorelace& block, double T) {
+        const BorrowedBlock borrowed(*state_, i, k, block);
+        return valueText(*this, T, i, k);
+    };
+    data.load(state.slots.Latka(i));
+    data.visible = true;
+    state.userInterface->showForm(data);
+}
+
+}  // namespace velor

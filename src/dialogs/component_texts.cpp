@@ -1,0 +1,81 @@
+#include "dialogs/component_texts.h"
+
+#include <cmath>
+
+#include "correlations/equations.h"
+#include "correlations/pure_property.h"
+#include "correlations/pure_value.h"
+#include "database/constant_table.h"
+#include "database/record_layout.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+
+namespace velor {
+
+namespace {
+
+bool isKnown(float constant) { return constant != kNoConstant && std::isfinite(constant); }
+
+std::string constantText(const ConstantDescription& constant, float value) {
+    if (!isKnown(value)) return value == kNoConstant ? "neobsazeno" : "poškozeno";
+    return Format(value * constant.displayed, constant.pattern);
+}
+
+std::string coefficientText(float coefficient) {
+    return std::isfinite(coefficient) ? std::string(trimBlanks(Smes::GFormat(coefficient))) : "poškozeno";
+}
+
+CorrelationText correlationText(const PureProperty& property, const TKorelace& block) {
+    CorrelationText text;
+    text.code = property.code;
+    text.caption = property.caption;
+    text.unit = property.unit;
+    text.isGiven = block.Priznak != 0;
+    if (!text.isGiven) return text;
+    text.Typ = block.Typ;
+    text.Vztah = trimBlanks(equationText(block.Typ));
+    for (std::size_t j = 0; j < text.A.size(); ++j) text.A[j] = coefficientText(block.A[j]);
+    text.range = std::to_string(block.Tmin) + " – " + std::to_string(block.Tmax) + " K";
+    return text;
+}
+
+std::string padded(std::string_view text, std::size_t width) {
+    return std::string(text) + std::string(width - std::min(width, characterCount(text)), ' ');
+}
+
+}  // namespace
+
+std::array<frmLatka::Constant, frmLatka::kConstants> constantTexts(const TLatka& record) {
+    std::array<frmLatka::Constant, frmLatka::kConstants> texts;
+    for (std::size_t k = 0; k < texts.size(); ++k) {
+        const ConstantDescription& constant = kConstantTable[k];
+        const float member = record.*constantMember(static_cast<int>(k) + 1);
+        const std::string value = constantText(constant, member);
+        texts[k] = {std::string(constant.caption), value, std::string(isKnown(member) ? constant.displayUnit : "")};
+    }
+    return texts;
+}
+
+std::array<CorrelationText, frmLatka::kProperties> correlationTexts(const TLatka& record) {
+    std::array<CorrelationText, frmLatka::kProperties> texts;
+    for (std::size_t k = 0; k < texts.size(); ++k) {
+        texts[k] = correlationText(pureProperties()[k], record.Korelace[k]);
+        texts[k].note = correlationNote(record, static_cast<int>(k) + 1);
+    }
+    return texts;
+}
+
+std::vector<std::string> propertyLines() {
+    constexpr std::size_t kCodeWidth = 7, kCaptionWidth = 33;
+    std::vector<std::string> lines;
+    for (const PureProperty& property : pureProperties())
+        lines.push_back(padded(property.code, kCodeWidth) + padded(property.caption, kCaptionWidth) +
+                        std::string(property.unit));
+    return lines;
+}
+
+std::string correlationNote(const TLatka& record, int k) {
+    return record.Cislo == kWater && k == kROLW ? std::string(kWaterDensityNote) : std::string();
+}
+
+}  // namespace velor

@@ -1,0 +1,275 @@
+// The display of a component and its temporary change, opened from the composition as a user does.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "database/record_layout.h"
+#include "support/sample_mixture.h"
+
+namespace velor::test {
+namespace {
+
+struct ComponentDialogs : ::testing::Test {
+    SampleMixture mixture{{sampleSubstance(1, "Voda"), sampleSubstance(2, "Éter")}};
+    Smes& smes = mixture.smes;
+    RecordingUserInterface& boxes = mixture.boxes;
+
+    ComponentDialogs() { smes.DefSmes(2, Fractions({1, 2})); }
+
+    void change(const std::function<void(F_Zmenaz&)>& names, const std::function<void(frmOprav&)>& data = {}) {
+        boxes.nextChangeActions = {names};
+        if (data) boxes.nextCorrectionActions = {data};
+        smes.mSloz_ZobrazZ(2);
+    }
+    std::string complaint() {
+        EXPECT_EQ(boxes.messages.size(), 1U);
+        const Message message = boxes.messages.empty() ? Message{} : boxes.messages.back();
+        boxes.messages.clear();
+        EXPECT_EQ(message.icon, Icon::Exclamation);
+        return message.text;
+    }
+};
+
+TEST_F(ComponentDialogs, showsTheRecord) {
+    frmLatka shown;
+    boxes.nextDisplayActions = {[&](frmLatka& form) {
+        shown = form;
+        EXPECT_EQ(form.Hodnota, "299.2 Pa·s");  // y = 1 + T at 298.15 K
+        form.selectProperty(8);
+        form.setTemperature("400,5");
+        form.keyInTemperature(kEnterKey);
+        EXPECT_EQ(form.Hodnota, "409.5 Pa   Teplota je mimo rozsah platnosti korelace, hodnota je extrapolovaná.");
+        form.setTemperature("0");
+        form.clickC_Vypocet();
+        EXPECT_EQ(form.Hodnota, "");
+        EXPECT_EQ(complaint(), "Teplota: zadejte kladné číslo v kelvinech.");
+    }};
+    boxes.nextCompositionActions = {[](F_Sloz& form) { form.mouseOnName(1, 1); }};
+    Variant n, X = Fractions({0, 0}), W = X;
+    smes.ZadejSloz(n, X, W);
+    EXPECT_EQ(shown.caption, " Zobrazení složky č. 2: Éter");
+    EXPECT_EQ(shown.Nazev + "|" + shown.Synonym + "|" + shown.Vzorec + "|" + shown.CAS, "Éter|Sample|C2H6O|[64-17-5]");
+    const auto constant = [&](std::size_t k) { return shown.Konstanty[k].value + " " + shown.Konstanty[k].unit; };
+    EXPECT_EQ(constant(0) + "|" + constant(1) + "|" + constant(2) + "|" + constant(3),
+              "0.04600 kg/mol|500.00 K|6000.0 kPa|200.0 cm³/mol");
+    EXPECT_EQ(shown.Korelace[8].Vztah, "y = A1 + A2.T   přímka");
+    EXPECT_EQ(shown.Korelace[8].A[0] + " " + shown.Korelace[8].range, "9.000 200 – 400 K");
+}
+
+TEST_F(ComponentDialogs, tellsWhatIsNotKnown) {
+    TLatka poor = sampleSubstance(1, "Chudá");
+    poor.Gyr = -9999;
+    poor.Vkr = NAN;
+    poor.CAS = 0;
+    poor.Korelace[0] = {};
+    SampleMixture other{{poor}};
+    other.smes.DefSmes(1, Fractions({1}));
+    other.boxes.nextDisplayActions = {[](frmLatka& form) {
+        EXPECT_EQ(form.CAS, "");
+        EXPECT_EQ(form.Konstanty[5].value + form.Konstanty[5].unit, "neobsazeno");
+        EXPECT_EQ(form.Konstanty[3].value, "poškozeno");
+        EXPECT_FALSE(form.Korelace[0].isGiven);
+        EXPECT_EQ(form.Hodnota, "Vlastnost není pro látku v bázi dána.");
+        form.selectProperty(3);
+        EXPECT_NE(form.selectedCorrelation().note, "");  // water's density has an equation of its own
+    }};
+    other.smes.mSloz_ZobrazL(1);
+    EXPECT_TRUE(other.boxes.nextDisplayActions.empty());
+    EXPECT_TRUE(other.boxes.messages.empty());
+}
+
+TEST_F(ComponentDialogs, openOnlyForALoadedComponent) {
+    for (const int i : {0, 3, 21, -1}) EXPECT_EQ(errorNumber([&] { smes.mSloz_ZobrazL(i); }), 9) << i;
+    for (const int i : {0, 3}) EXPECT_EQ(errorNumber([&] { smes.mSloz_ZobrazZ(i); }), 9) << i;
+    smes.DefSmes(2, Fractions({1, 3}));
+    boxes.messages.clear();
+    boxes.nextChangeActions = {[](F_Zmenaz&) { ADD_FAILURE() << "shown"; }};
+    smes.mSloz_ZobrazZ(2);
+    EXPECT_EQ(complaint(), "INIVLR: Látka č.  3 není v bázi!");
+}
+
+TEST_F(ComponentDialogs, changesWhatWasTypedAndNothingElse) {
+    const float before = smes.Bod(2, 1);
+    change([](F_Zmenaz& form) {
+        EXPECT_EQ(form.caption, " Dočasná změna složky č. 2: Éter");
+        form.setText(F_Zmenaz::kNazev, " Líh ");
+        form.setText(F_Zmenaz::kCAS, "[7732-18-5]");
+        form.setText(F_Zmenaz::kFirstConstant + 1, "510,5");
+        form.setText(F_Zmenaz::kFirstConstant + 2, "");
+        form.clickC_OK();
+    });
+    EXPECT_EQ(smes.FFce(300, 2, 1).toDouble(), 301.0);  // a property, which must not load the record anew
+    EXPECT_EQ(smes.ROLW(300, Fractions({0.5, 0.5})).kind(), Variant::Kind::Double);
+    EXPECT_EQ(smes.Nazev(2).toText(), "Líh" + std::string(27, ' '));
+    EXPECT_EQ(smes.Synonym(2).toText(), "Sample" + std::string(24, ' '));
+    EXPECT_EQ(smes.CAS(2).toText(), "[ 7732-18-5]");
+    EXPECT_EQ(smes.Bod(2, 1), before);
+    EXPECT_EQ(smes.Bod(2, 2), 510.5F);
+    EXPECT_EQ(smes.Bod(2, 3), -9999.0F);
+    EXPECT_EQ(smes.Nazev(1).toText().substr(0, 4), "Voda");
+    smes.DefSmes(2, Fractions({1, 2}));  // the file was not written
+    smes.Inivlr();
+    EXPECT_EQ(smes.Bod(2, 2), 500.0F);
+}
+
+TEST_F(ComponentDialogs, renamesTheLabelOfTheComposition) {
+    boxes.nextChangeActions = {[](F_Zmenaz& form) {
+        form.setText(F_Zmenaz::kNazev, "Líh");
+        form.clickC_OK();
+    }};
+    boxes.nextCompositionActions = {[](F_Sloz& form) {
+        form.mouseOnName(1, 2);
+        EXPECT_EQ(form.L_J[1].substr(0, 4), "Líh");
+        EXPECT_TRUE(form.visible);
+    }};
+    Variant n, X = Fractions({0, 0}), W = X;
+    smes.ZadejSloz(n, X, W);
+}
+
+TEST_F(ComponentDialogs, cancelChangesNothing) {
+    const auto spoil = [](auto& form) {
+        for (int field = 0; field < form.kFields; ++field) form.setText(field, "17");
+        form.clickC_Zpet();
+        EXPECT_FALSE(form.visible);
+    };
+    change(spoil);
+    change([](F_Zmenaz& form) { form.clickC_Data(); }, spoil);
+    EXPECT_TRUE(boxes.nextCorrectionActions.empty());
+    EXPECT_EQ(smes.Nazev(2).toText().substr(0, 5), "Éter");
+    EXPECT_EQ(smes.Bod(2, 1), 0.046F);
+    EXPECT_EQ(smes.VLRConst(2, 1, 1), 1.0F);
+    EXPECT_EQ(smes.VLRConst(2, 1, 7), 1.0F);
+    EXPECT_TRUE(boxes.messages.empty());
+}
+
+TEST_F(ComponentDialogs, refuseFieldByField) {
+    const std::string tooLong(31, 'a');
+    // clang-format off
+    const std::tuple<int, std::string, std::string> cases[] = {
+        {F_Zmenaz::kNazev, "  ", "Pole „název“: název nesmí chybět."},
+        {F_Zmenaz::kNazev, tooLong, "Pole „název“: text má 31 znaků, vejde se jich 30."},
+        {F_Zmenaz::kVzorec, "H₂O", "Pole „vzorec“: znak „₂“ není v kódování Windows-1250."},
+        {F_Zmenaz::kCAS, "64-17-6", "Pole „CAS“: zadejte platné číslo ve tvaru 64-17-5, nebo nic."},
+        {F_Zmenaz::kCAS, "abc", "Pole „CAS“: zadejte platné číslo ve tvaru 64-17-5, nebo nic."},
+        {F_Zmenaz::kFirstConstant, "", "Pole „molární hmotnost“: zadejte kladné číslo."},
+        {F_Zmenaz::kFirstConstant + 1, "0", "Pole „kritická teplota“: zadejte kladné číslo, nebo nic."},
+        {F_Zmenaz::kFirstConstant + 1, "1e39", "Pole „kritická teplota“: zadejte kladné číslo, nebo nic."},
+        {F_Zmenaz::kFirstConstant + 1, "1e999", "Pole „kritická teplota“: zadejte kladné číslo, nebo nic."},
+        {F_Zmenaz::kFirstConstant + 4, "0.3x", "Pole „acentrický faktor“: zadejte číslo, nebo nic."},
+        {F_Zmenaz::kFirstConstant + 8, "-1", "Pole „dipólový moment“: zadejte nezáporné číslo, nebo nic."},
+    };
+    // clang-format on
+    for (const auto& [field, text, expected] : cases) {
+        change([&, field = field, text = text](F_Zmenaz& form) {
+            form.setText(F_Zmenaz::kSynonym, "changed");
+            form.setText(field, text);
+            form.clickC_Data();
+            EXPECT_TRUE(form.visible);
+            EXPECT_EQ(form.focus, (Focus{Focus::Control::Value, field}));
+        });
+        EXPECT_EQ(complaint(), expected);
+        EXPECT_EQ(smes.Synonym(2).toText().substr(0, 6), "Sample");
+    }
+    const std::tuple<int, std::string, std::string> corrections[] = {
+        {frmOprav::kTyp, "20", "TENS, Typ rovnice: zadejte číslo 1 až 19, nebo nic."},
+        {frmOprav::kTyp, "1.5", "TENS, Typ rovnice: zadejte číslo 1 až 19, nebo nic."},
+        {frmOprav::kFirstCoefficient + 1, "1e39", "TENS, A2: zadejte číslo, nebo nic (nula)."},
+        {frmOprav::kTmin, "", "TENS, Tmin: zadejte celé číslo kelvinů, nejvýše 32767."},
+        {frmOprav::kTmax, "32768", "TENS, Tmax: zadejte celé číslo kelvinů, nejvýše 32767."},
+        {frmOprav::kTmax, "199", "TENS, Tmax: nesmí být nižší než Tmin."},
+    };
+    for (const auto& [field, text, expected] : corrections) {
+        change([](F_Zmenaz& form) { form.clickC_Data(); },
+               [&, field = field, text = text](frmOprav& form) {
+                   form.selectProperty(8);
+                   form.setText(field, text);
+                   form.selectProperty(0);  // what was typed stays, and is found when all is confirmed
+                   form.clickC_OK();
+                   EXPECT_TRUE(form.visible);
+                   EXPECT_EQ(form.L_Vlast.selected, 8);
+                   EXPECT_EQ(form.T_Pole[static_cast<std::size_t>(field)].text, text);
+                   EXPECT_EQ(form.focus, (Focus{Focus::Control::Value, field}));
+               });
+        EXPECT_EQ(complaint(), expected);
+    }
+    EXPECT_EQ(smes.VLRConst(2, 9, 10), 400.0F);
+}
+
+TEST_F(ComponentDialogs, showsValuesBeforeAndAfterACorrection) {
+    change([](F_Zmenaz& form) { form.clickC_Data(); },
+           [&](frmOprav& form) {
+               form.setTemperature("300");
+               form.selectProperty(8);
+               EXPECT_EQ(form.HodnotaPred + "|" + form.HodnotaPo, "309.0 Pa|309.0 Pa");
+               form.setText(frmOprav::kTyp, "2");
+               EXPECT_EQ(form.Vztah, "y = A1 + A2.T + A3.T^2   parabola");
+               form.setText(frmOprav::kFirstCoefficient + 2, "0,01");
+               form.keyInTemperature(kEnterKey);
+               EXPECT_EQ(form.HodnotaPred + "|" + form.HodnotaPo, "309.0 Pa|1209 Pa");
+               form.setText(frmOprav::kTmin, "x");
+               form.clickC_Vypocet();
+               EXPECT_EQ(form.HodnotaPo, "");
+               EXPECT_EQ(complaint(), "Tmin: zadejte celé číslo kelvinů, nejvýše 32767.");
+               form.setText(frmOprav::kTmin, "100");
+               form.selectProperty(0);
+               form.setText(frmOprav::kTyp, "");                   // no longer given
+               EXPECT_EQ(smes.FFce(300, 2, 9).toDouble(), 309.0);  // not before it is confirmed
+               form.clickC_OK();
+           });
+    EXPECT_DOUBLE_EQ(smes.FFce(300, 2, 9).toDouble(), 309.0 + 0.01F * 90000.0);
+    EXPECT_EQ(smes.VLRConst(2, 9, 9), 100.0F);
+    EXPECT_EQ(smes.VLRConst(2, 1, 8), 0.0F);
+    EXPECT_EQ(smes.VLRConst(2, 2, 1), 2.0F);  // the others keep theirs
+    EXPECT_EQ(smes.VLRConst(1, 9, 3), 0.0F);
+}
+
+// What a mode that raises errors would throw out of the modal form is told in it.
+TEST_F(ComponentDialogs, surviveAValueThatCannotBeComputed) {
+    smes.ChyboveHlasky(-1);
+    change([](F_Zmenaz& form) { form.clickC_Data(); },
+           [](frmOprav& form) {
+               form.setText(frmOprav::kTyp, "6");  // exp(1 + 1/(0 + T)) first, then beyond every number
+               form.setText(frmOprav::kFirstCoefficient, "1e30");
+               form.clickC_Vypocet();
+               EXPECT_EQ(form.HodnotaPo, "Při výpočtu nastala chyba, rovnice nemá při této teplotě hodnotu.");
+           });
+    EXPECT_EQ(smes.FFce(300, 2, 1).toDouble(), 301.0);
+}
+
+TEST_F(ComponentDialogs, keepTheBytesOfUntouchedFields) {
+    TLatka odd = sampleSubstance(1, "Divná");
+    odd.Nazev[10] = '\x07';
+    odd.Vkr = NAN;
+    odd.Korelace[4].Priznak = 5;
+    odd.Korelace[4].Typ = 77;
+    odd.Korelace[6].A[0] = INFINITY;
+    const auto bytes = encodeRecord(odd);
+    F_Zmenaz names;
+    frmOprav data;
+    TLatka saved;
+    names.Ulozit = data.Ulozit = [&](const TLatka& record) { saved = record; };
+    names.load(odd);
+    names.clickC_OK();
+    EXPECT_EQ(encodeRecord(saved), bytes);
+    data.load(odd);
+    data.setText(frmOprav::kFirstCoefficient, "1");  // as it was
+    data.clickC_OK();
+    EXPECT_EQ(encodeRecord(saved), bytes);
+}
+
+TEST(ComponentForms, walkByEnter) {
+    F_Zmenaz names;
+    frmOprav data;
+    data.load(sampleSubstance(1, "Voda"));
+    names.keyPressed(18, kEnterKey);
+    data.keyPressed(8, kEnterKey);
+    EXPECT_EQ(names.focus, (Focus{Focus::Control::Confirm, 0}));
+    EXPECT_EQ(data.focus, (Focus{Focus::Control::Confirm, 0}));
+    names.keyPressed(0, kEnterKey);
+    EXPECT_EQ(names.focus, (Focus{Focus::Control::Value, 1}));
+    for (const int field : {-1, 19}) EXPECT_EQ(errorNumber([&] { names.setText(field, ""); }), 9);
+    for (const int index : {-1, 10}) EXPECT_EQ(errorNumber([&] { data.selectProperty(index); }), 9);
+}
+
+}  // namespace
+}  // namespace velor::test
