@@ -16,7 +16,7 @@ namespace velor {
 namespace {
 
 std::string line(std::string_view caption, std::string_view value, std::string_view unit = {}) {
-    constexpr std::size_t kCaptionWidth = 34;
+    constexpr std::size_t kCaptionWidth = 37;
     std::string text = "  " + std::string(caption);
     text.append(kCaptionWidth - std::min(kCaptionWidth, characterCount(caption)), ' ').append(value);
     if (!unit.empty()) text.append(" ").append(unit);
@@ -109,7 +109,9 @@ void StreamUserInterface::showForm(frmLatka& form) {
             const std::string before = form.T_Teplota.text;
             form.setTemperature(typed);
             form.clickC_Vypocet();
-            if (form.Hodnota.empty()) form.setTemperature(before);
+            if (!form.Hodnota.empty()) continue;
+            form.setTemperature(before);
+            form.selectProperty(form.L_Vlast.selected);
         }
     }
 }

@@ -66,7 +66,7 @@ std::array<CorrelationText, frmLatka::kProperties> correlationTexts(const TLatka
 }
 
 std::vector<std::string> propertyLines() {
-    constexpr std::size_t kCodeWidth = 7, kCaptionWidth = 33;
+    constexpr std::size_t kCodeWidth = 7, kCaptionWidth = 35;
     std::vector<std::string> lines;
     for (const PureProperty& property : pureProperties())
         lines.push_back(padded(property.code, kCodeWidth) + padded(property.caption, kCaptionWidth) +

@@ -43,13 +43,13 @@ void tellOption(const F_Sloz& form, std::ostream& out) {
     out << form.Nadpiss << ": " << (form.O_Mol ? form.O_MolCaption : form.O_HmotCaption) << '\n';
 }
 
-// The index of the component in "L 2" or "D 2"; -1 in anything else.
-int namedComponent(const F_Sloz& form, const std::string& command) {
-    if (!command.starts_with("L ") && !command.starts_with("D ")) return -1;
+// "L 2" and "D 2" concern a component; they are no value even where there is no such component.
+bool concernsComponent(const std::string& command) { return command.starts_with("L ") || command.starts_with("D "); }
+
+void openComponent(F_Sloz& form, const std::string& command) {
     const std::string number(trimBlanks(command.substr(1)));
     for (int i = 0; i < form.components; ++i)
-        if (number == std::to_string(i + 1)) return i;
-    return -1;
+        if (number == std::to_string(i + 1)) return form.mouseOnName(i, command.front() == 'L' ? 1 : 2);
 }
 
 }  // namespace
@@ -122,8 +122,8 @@ void StreamUserInterface::showForm(F_Sloz& form) {
             command == "M" ? form.clickO_Mol() : form.clickO_Hmot();
             tellOption(form, messages_);
             i = form.focus.index;
-        } else if (const int named = namedComponent(form, command); named >= 0) {
-            form.mouseOnName(named, command.front() == 'L' ? 1 : 2);
+        } else if (concernsComponent(command)) {
+            openComponent(form, command);
         } else if (!complete) {
             if (!line.empty()) form.setText(i, line);
             form.keyPressed(i, kEnterKey);

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "platform/system.h"
+#include "runtime/text.h"
 #include "support/sample_mixture.h"
 
 namespace velor::test {
@@ -91,13 +92,19 @@ TEST_F(Questions, displayAndChangeAComponent) {
         EXPECT_EQ(smes.Bod(2, 2), 510.0F);
         EXPECT_EQ(smes.VLRConst(2, 9, 1), 10.0F);
     });
-    for (const char* part :
-         {"Voda [1.0]: Zobrazení složky č. 2: Éter\n", "  kritická teplota                  500.00 K\n",
-          "TENS (300 K): 309.0 Pa\n> (!) VELOR: Teplota: zadejte kladné číslo v kelvinech.\nTENS (300 K): 309.0 Pa\n",
-          "> (!) VELOR: Pole „kritická teplota“: zadejte kladné číslo, nebo nic.\n>   6  kritická teplota [K]",
-          "  2  A1                             10\n", "  Před změnou:                      310.0 Pa\n",
-          "  Po změně:                         311.0 Pa\n> "})
-        EXPECT_NE(shown.find(part), std::string::npos) << part << shown;
+    const auto line = [](const std::string& caption, const std::string& value) {
+        return "  " + caption + std::string(37 - characterCount(caption), ' ') + value + "\n";
+    };
+    const std::string parts[] = {
+        "Voda [1.0]:   Voda [1.0]: Zobrazení složky č. 2: Éter\n",
+        line("kritická teplota", "500.00 K"),
+        "TENS (300 K): 309.0 Pa\n> (!) VELOR: Teplota: zadejte kladné číslo v kelvinech.\nTENS (300 K): 309.0 Pa\n",
+        "> (!) VELOR: Pole „kritická teplota“: zadejte kladné číslo, nebo nic.\n>   6  kritická teplota [K]",
+        line("2  A1", "10"),
+        line("Před změnou:", "310.0 Pa"),
+        line("Po změně:", "311.0 Pa") + "> ",
+    };
+    for (const std::string& part : parts) EXPECT_NE(shown.find(part), std::string::npos) << part << shown;
 }
 
 TEST_F(Questions, endWhereNobodyAnswers) {
