@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "platform/file_system.h"
+#include "platform/system.h"
 #include "runtime/checked.h"
 #include "runtime/text.h"
 
@@ -12,6 +13,7 @@ namespace velor {
 namespace {
 
 constexpr std::string_view kComment = "Soubor obsahuje na 2.ř. cestu k datovému souboru báze.";
+constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";  // says that the file is in UTF-8
 constexpr std::size_t kMostBytes = 65536;  // two lines and far more; a file of another kind is not read to its end
 
 void skipBlanks(std::string_view& text) { text.remove_prefix(std::min(text.find_first_not_of(' '), text.size())); }
@@ -43,7 +45,8 @@ std::string_view takeItem(std::string_view& text) {
 }  // namespace
 
 std::string readConfiguredPath(const std::string& configurationFile) {
-    const std::string content = platform::readText(configurationFile, kMostBytes);
+    std::string content = platform::readText(configurationFile, kMostBytes);
+    if (!content.starts_with(kByteOrderMark)) content = platform::fromSystemText(content);
     std::string_view rest = content;
     takeItem(rest);
     return std::string(trimBlanks(takeItem(rest)));
@@ -52,9 +55,12 @@ std::string readConfiguredPath(const std::string& configurationFile) {
 void writeConfiguredPath(const std::string& configurationFile, const std::string& databasePath) {
     const bool quoted = databasePath.find(',') != std::string::npos;
     const std::string_view quote = quoted ? "\"" : "";
-    platform::replaceFile(
-        configurationFile,
-        std::string(kComment).append("\r\n").append(quote).append(databasePath).append(quote).append("\r\n"));
+    const std::string content =
+        std::string(kComment).append("\r\n").append(quote).append(databasePath).append(quote).append("\r\n");
+    // A path that the system's encoding cannot hold would name another file.
+    const bool fits = platform::fromSystemText(platform::toSystemText(databasePath)) == databasePath;
+    platform::replaceFile(configurationFile,
+                          fits ? platform::toSystemText(content) : std::string(kByteOrderMark).append(content));
 }
 
 }  // namespace velor

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "velor/user_interface.h"
@@ -18,6 +19,11 @@ std::vector<std::string> volumes();
 
 // Today in the system's short date format.
 std::string shortDate();
+
+// UTF-8 text in the encoding of the system's own text files and back: the ANSI code page on Windows, UTF-8 elsewhere. A
+// character that it lacks becomes a similar one or "?".
+std::string toSystemText(std::string_view text);
+std::string fromSystemText(std::string_view text);
 
 // Boxes for a host that brings no user interface of its own.
 std::unique_ptr<UserInterface> defaultUserInterface();

@@ -1,0 +1,226 @@
+#include "platform/file_system.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+#include "platform/windows/wide_text.h"
+#include "runtime/checked.h"
+#include "runtime/text.h"
+
+namespace velor::platform {
+
+const char kPathSeparator = '\\';
+
+namespace {
+
+using File = std::unique_ptr<void, decltype([](HANDLE file) { CloseHandle(file); })>;
+using Enumeration = std::unique_ptr<void, decltype([](HANDLE search) { FindClose(search); })>;
+
+// Where a drive holds no disk, Windows asks for one unless it is told not to.
+class QuietDrives {
+  public:
+    QuietDrives() { SetThreadErrorMode(SEM_FAILCRITICALERRORS, &before_); }
+    ~QuietDrives() { SetThreadErrorMode(before_, nullptr); }
+    QuietDrives(const QuietDrives&) = delete;
+    QuietDrives& operator=(const QuietDrives&) = delete;
+
+  private:
+    DWORD before_ = 0;
+};
+
+[[noreturn]] void raiseFileError(DWORD error) {
+    switch (error) {
+        case ERROR_FILE_NOT_FOUND:
+        case ERROR_INVALID_NAME:
+            checked::raise(RunTimeError::kFileNotFound);
+        case ERROR_PATH_NOT_FOUND:
+        case ERROR_DIRECTORY:
+        case ERROR_INVALID_DRIVE:
+        case ERROR_NOT_READY:
+        case ERROR_BAD_NETPATH:
+        case ERROR_BAD_NET_NAME:
+            checked::raise(RunTimeError::kPathNotFound);
+        case ERROR_ACCESS_DENIED:
+        case ERROR_SHARING_VIOLATION:
+        case ERROR_LOCK_VIOLATION:
+        case ERROR_WRITE_PROTECT:
+            checked::raise(RunTimeError::kPermissionDenied);
+        default:
+            checked::raise(RunTimeError::kPathFileAccess);
+    }
+}
+
+// A text with a zero character would be cut there and name another file.
+bool isPath(const std::string& path) { return !path.empty() && path.find('\0') == std::string::npos; }
+
+std::wstring widePath(const std::string& path) {
+    if (!isPath(path)) checked::raise(RunTimeError::kFileNotFound);
+    return toWide(path);
+}
+
+bool isFolder(const std::wstring& path) {
+    const DWORD attributes = GetFileAttributesW(path.c_str());
+    return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+}
+
+HANDLE openForReading(const std::string& path) {
+    const QuietDrives quiet;
+    const std::wstring name = widePath(path);
+    // Whoever replaces or deletes the file meanwhile is not kept from it.
+    const HANDLE file = CreateFileW(name.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                    nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file == INVALID_HANDLE_VALUE) {
+        const DWORD error = GetLastError();
+        if (isFolder(name)) checked::raise(RunTimeError::kPathFileAccess);
+        raiseFileError(error);
+    }
+    if (GetFileType(file) != FILE_TYPE_DISK) {
+        CloseHandle(file);
+        checked::raise(RunTimeError::kPathFileAccess);
+    }
+    return file;
+}
+
+HANDLE handleOf(std::intptr_t handle) { return reinterpret_cast<HANDLE>(handle); }
+
+constexpr DWORD kMostBytesAtOnce = 1U << 30U;
+
+DWORD atOnce(std::size_t size) { return static_cast<DWORD>(std::min<std::size_t>(size, kMostBytesAtOnce)); }
+
+void writeAll(HANDLE file, std::string_view content) {
+    while (!content.empty()) {
+        DWORD written = 0;
+        if (!WriteFile(file, content.data(), atOnce(content.size()), &written, nullptr) || written == 0)
+            checked::raise(RunTimeError::kPathFileAccess);
+        content.remove_prefix(written);
+    }
+    if (!FlushFileBuffers(file)) checked::raise(RunTimeError::kPathFileAccess);
+}
+
+// A new file beside the path.
+std::pair<File, std::wstring> createTemporary(const std::wstring& path) {
+    constexpr int kAttempts = 100;  // as many leftovers of killed processes are stepped over
+    for (int attempt = 0; attempt < kAttempts; ++attempt) {
+        std::wstring name = path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(attempt);
+        const HANDLE file =
+            CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
+        if (file != INVALID_HANDLE_VALUE) return {File(file), std::move(name)};
+        if (GetLastError() != ERROR_FILE_EXISTS) raiseFileError(GetLastError());
+    }
+    checked::raise(RunTimeError::kPathFileAccess);
+}
+
+void moveOver(const std::wstring& from, const std::wstring& to) {
+    // Readers, virus scanners and indexers hold a file for moments.
+    constexpr int kAttempts = 50;
+    constexpr DWORD kMilliseconds = 10;
+    if (isFolder(to)) checked::raise(RunTimeError::kPathFileAccess);
+    for (int attempt = 1;; ++attempt) {
+        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) return;
+        const DWORD error = GetLastError();
+        if ((error != ERROR_ACCESS_DENIED && error != ERROR_SHARING_VIOLATION) || attempt == kAttempts)
+            raiseFileError(error);
+        Sleep(kMilliseconds);
+    }
+}
+
+// A link to elsewhere, or a folder where another volume is mounted; files kept in a cloud are neither.
+bool leadsElsewhere(const WIN32_FIND_DATAW& entry) {
+    return (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+           IsReparseTagNameSurrogate(entry.dwReserved0) != 0;
+}
+
+}  // namespace
+
+std::string withSeparator(std::string_view folder) {
+    std::string path(trimBlanks(folder));
+    if (path.empty() || path.back() != kPathSeparator) path += kPathSeparator;
+    return path;
+}
+
+ReadOnlyFile::ReadOnlyFile(const std::string& path) : handle_(reinterpret_cast<std::intptr_t>(openForReading(path))) {}
+
+ReadOnlyFile::~ReadOnlyFile() { CloseHandle(handleOf(handle_)); }
+
+std::int64_t ReadOnlyFile::size() const {
+    LARGE_INTEGER size{};
+    if (!GetFileSizeEx(handleOf(handle_), &size)) checked::raise(RunTimeError::kPathFileAccess);
+    return size.QuadPart;
+}
+
+std::size_t ReadOnlyFile::readAt(std::int64_t offset, std::span<char> bytes) const {
+    std::size_t done = 0;
+    while (done < bytes.size()) {
+        ULARGE_INTEGER position{};
+        position.QuadPart = static_cast<ULONGLONG>(offset) + done;
+        OVERLAPPED place{};
+        place.Offset = position.LowPart;
+        place.OffsetHigh = position.HighPart;
+        DWORD count = 0;
+        if (!ReadFile(handleOf(handle_), bytes.data() + done, atOnce(bytes.size() - done), &count, &place)) {
+            if (GetLastError() == ERROR_HANDLE_EOF) break;
+            checked::raise(RunTimeError::kPathFileAccess);
+        }
+        if (count == 0) break;
+        done += count;
+    }
+    return done;
+}
+
+std::string readText(const std::string& path, std::size_t mostBytes) {
+    const ReadOnlyFile file(path);
+    std::string text(std::min(mostBytes, static_cast<std::size_t>(file.size())), '\0');
+    text.resize(file.readAt(0, text));
+    return text;
+}
+
+std::string fileName(const std::string& path) {
+    const QuietDrives quiet;
+    if (!isPath(path) || path.find_first_of("*?") != std::string::npos) return {};
+    WIN32_FIND_DATAW entry{};
+    const HANDLE search = FindFirstFileW(toWide(path).c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) return {};
+    const Enumeration closing(search);
+    if ((entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0) return {};
+    return fromWide(entry.cFileName);
+}
+
+void deleteFile(const std::string& path) {
+    if (!DeleteFileW(widePath(path).c_str())) raiseFileError(GetLastError());
+}
+
+void replaceFile(const std::string& path, std::string_view content) {
+    const std::wstring name = widePath(path);
+    auto [file, temporary] = createTemporary(name);
+    try {
+        writeAll(file.get(), content);
+        file.reset();
+        moveOver(temporary, name);
+    } catch (const RunTimeError&) {
+        file.reset();
+        DeleteFileW(temporary.c_str());
+        throw;
+    }
+}
+
+std::vector<FolderEntry> listFolder(const std::string& folder) {
+    const QuietDrives quiet;
+    std::vector<FolderEntry> entries;
+    WIN32_FIND_DATAW entry{};
+    if (!isPath(folder)) return entries;
+    const HANDLE search = FindFirstFileW(toWide(withSeparator(folder) + "*").c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) return entries;
+    const Enumeration closing(search);
+    do {
+        const std::string name = fromWide(entry.cFileName);
+        if (name == "." || name == ".." || leadsElsewhere(entry)) continue;
+        entries.push_back({name, (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
+    } while (FindNextFileW(search, &entry));
+    std::sort(entries.begin(), entries.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
+    return entries;
+}
+
+}  // namespace velor::platform
