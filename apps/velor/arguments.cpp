@@ -57,7 +57,7 @@ void describeProgram(CLI::App& program, Arguments& arguments) {
     program.set_version_flag("--verze", version(), "vypíše verzi")->group(kOptions);
     program.require_subcommand(1);
     program.footer("Návratový kód:\n" + definitions(kExitCodes) + "\nSoubory:\n" + definitions(kFiles) +
-                   "\nNápověda k příkazu: velor PŘÍKAZ --help, k celému programu: man velor");
+                   "\nNápověda k příkazu: velor PŘÍKAZ --help");
     addSubstanceListCommand(program, arguments);
     addSubstanceCommand(program, arguments);
     addPropertyCommand(program, arguments);

@@ -90,11 +90,12 @@ const CLI::Option* nextPositional(const Place& place) {
 }
 
 // The database that the line names, at whichever end of it.
-std::optional<std::string> namedDatabase(Names words) {
+std::optional<std::string> namedDatabase(const Names& words) {
+    constexpr std::string_view kOption = "--baze", kOptionWithValue = "--baze=";
     std::optional<std::string> path;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        if (words[i].starts_with("--baze=")) path = words[i].substr(7);
-        if (words[i] == "--baze" && i + 1 < words.size()) path = withHome(words[i + 1]);
+        if (words[i].starts_with(kOptionWithValue)) path = words[i].substr(kOptionWithValue.size());
+        if (words[i] == kOption && i + 1 < words.size()) path = withHome(words[i + 1]);
     }
     return path;
 }
@@ -199,7 +200,7 @@ class Completer {
         for (const TypedWord& word : line_.before()) words.push_back(word.text);
         std::ranges::move(shellWords(behind_), std::back_inserter(words));
         RecordingUserInterface silence;
-        return openDatabase(namedDatabase(std::move(words)), silence);
+        return openDatabase(namedDatabase(words), silence);
     }
 
     TypedLine line_;

@@ -1,11 +1,12 @@
 #include "manual_page.h"
 
-#include <algorithm>
+#include <set>
 #include <span>
 #include <string_view>
 #include <vector>
 
 #include "conventions.h"
+#include "folding.h"
 #include "runtime/text.h"
 
 namespace velor::app {
@@ -85,9 +86,7 @@ std::string head(const CLI::Option& option) {
 }
 
 bool isShared(const CLI::Option& option, const CLI::App& program) {
-    const std::string name = option.get_positional() ? "" : option.get_name();
-    const auto options = program.get_options();
-    return std::ranges::any_of(options, [&](const CLI::Option* other) { return other->get_name() == name; });
+    return program.get_option_no_throw(option.get_name()) != nullptr;
 }
 
 // The text behind the heading "Příklad:" or "Příklady:" stands one example a line.
@@ -151,6 +150,22 @@ std::string conventions(std::span<const Convention> entries) {
     return text;
 }
 
+// Where a device lacks a Czech letter the plain one is shown.
+std::string plainLetters(const std::string& page) {
+    std::set<char32_t> letters;
+    for (std::string_view rest = page; !rest.empty();) letters.insert(takeCodePoint(rest));
+    std::string text;
+    for (const char32_t letter : letters) {
+        std::string name;
+        appendCodePoint(name, letter);
+        std::string plain = folded(name);
+        if (name.size() == 1 || plain.size() != 1) continue;
+        if (upperCase(name) != name) plain.front() = static_cast<char>(plain.front() - 'A' + 'a');
+        text += ".fchar " + name + " " + plain + "\n";
+    }
+    return text;
+}
+
 }  // namespace
 
 std::string manualPage(const CLI::App& program, const std::string& version) {
@@ -166,7 +181,8 @@ std::string manualPage(const CLI::App& program, const std::string& version) {
     for (const CLI::App* command : commands) text += commandText(*command);
     text += ".SH PŘEPÍNAČE\nPro všechny příkazy:\n" + options(program);
     text += ".SH NÁVRATOVÝ KÓD\n" + conventions(kExitCodes);
-    return text + ".SH SOUBORY\n" + conventions(kFiles);
+    text += ".SH SOUBORY\n" + conventions(kFiles);
+    return plainLetters(text) + text;
 }
 
 }  // namespace velor::app

@@ -67,6 +67,7 @@ TEST(CompletionTest, candidatesOfALine) {
         {"velor latka kyselina\\ oct|", {"Kyselina\\ octová"}},
         {"velor latka \"kyselina oct\"|", {"\"Kyselina octová\""}},
         {"velor latka dme|", {"DME"}},
+        {"velor latka Kyselina\\ OCTOVÁ|", {"Kyselina\\ octová"}},
         {"velor latka 4|", {}},
         // several names: nothing that is typed goes away
         {"velor latka ET|", {"EThan", "EThanol"}},
