@@ -1,5 +1,6 @@
 # What "cmake --install" puts where: the library and the programs, the headers, the CMake package and the pkg-config
-# file, the database under share/velor, and VELOR.CFG beside everything that looks for it there.
+# file, the manual page and the shell's completion, the database under share/velor, and VELOR.CFG beside everything that
+# looks for it there.
 include(CMakePackageConfigHelpers)
 
 set(package_folder ${CMAKE_INSTALL_LIBDIR}/cmake/velor)
@@ -26,6 +27,14 @@ install(FILES ${PROJECT_BINARY_DIR}/velor.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}
 
 if(VELOR_BUILD_COMMAND)
     install(TARGETS velor_command RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+    install(FILES ${PROJECT_SOURCE_DIR}/apps/velor/velor.bash RENAME velor
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+    # Under man1 too, where it is found in every locale.
+    if(TARGET velor_manual)
+        foreach(folder cs/man1 man1)
+            install(FILES ${PROJECT_BINARY_DIR}/velor.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/${folder})
+        endforeach()
+    endif()
 endif()
 if(VELOR_BUILD_DATABASE)
     install(TARGETS velor-baze RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})

@@ -1,7 +1,10 @@
 #include "arguments.h"
 
+#include "completion.h"
+#include "conventions.h"
 #include "czech_help.h"
 #include "failure.h"
+#include "manual_page.h"
 #include "subcommands.h"
 #include "typed_number.h"
 #include "velor/version.h"
@@ -9,6 +12,9 @@
 namespace velor::app {
 
 namespace {
+
+constexpr const char* kCompletionCommand = "doplneni";
+constexpr const char* kManualCommand = "prirucka";
 
 std::string version() {
     return "velor " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) + "." +
@@ -29,15 +35,29 @@ std::optional<std::string> chosenDatabase(const CLI::App& program, const Argumen
     return arguments.database;
 }
 
+std::string definitions(std::span<const Convention> entries) {
+    std::string text;
+    for (const auto& [name, meaning] : entries) text += definition(std::string(name), std::string(meaning));
+    return text;
+}
+
+// For the shell and for the build; nobody types them, so the help passes them over.
+void addHiddenCommands(CLI::App& program, Arguments& arguments) {
+    CLI::App* completion = program.add_subcommand(kCompletionCommand)->group("");
+    completion->add_flag("--vypis", arguments.completion.isList);
+    completion->add_option("ODDĚLOVAČE", arguments.completion.wordBreaks)->required();
+    completion->add_option("PŘED", arguments.completion.before)->required();
+    completion->add_option("ZA", arguments.completion.behind);
+    program.add_subcommand(kManualCommand)->group("");
+}
+
 void describeProgram(CLI::App& program, Arguments& arguments) {
     program.formatter(czechFormatter());
     addCommonOptions(&program, arguments);
     program.set_version_flag("--verze", version(), "vypíše verzi")->group(kOptions);
     program.require_subcommand(1);
-    program.footer(
-        "Nápověda k příkazu: velor PŘÍKAZ --help\n"
-        "Návratový kód: 0 v pořádku, 1 nic nebylo vypočteno nebo nalezeno, 2 chybné zadání, 3 chybí databáze,\n"
-        "4 překročen časový limit.");
+    program.footer("Návratový kód:\n" + definitions(kExitCodes) + "\nSoubory:\n" + definitions(kFiles) +
+                   "\nNápověda k příkazu: velor PŘÍKAZ --help");
     addSubstanceListCommand(program, arguments);
     addSubstanceCommand(program, arguments);
     addPropertyCommand(program, arguments);
@@ -47,6 +67,13 @@ void describeProgram(CLI::App& program, Arguments& arguments) {
     addEquilibriumCommand(program, arguments);
     addFlashCommand(program, arguments);
     addGraphCommand(program, arguments);
+    addHiddenCommands(program, arguments);
+}
+
+std::optional<ReadyAnswer> hiddenAnswer(const CLI::App& program, const Arguments& arguments) {
+    if (program.got_subcommand(kCompletionCommand)) return completionText(program, arguments.completion);
+    if (program.got_subcommand(kManualCommand)) return manualPage(program, version());
+    return std::nullopt;
 }
 
 }  // namespace
@@ -54,7 +81,7 @@ void describeProgram(CLI::App& program, Arguments& arguments) {
 void addCommonOptions(CLI::App* app, Arguments& arguments) {
     app->set_help_flag("-h,--help", "vypíše tuto nápovědu")->group(kOptions);
     app->add_option("--baze", arguments.database, "použije tento soubor databáze látek")
-        ->option_text("SOUBOR")
+        ->option_text(kFileValue)
         ->group(kOptions);
     app->add_option("--limit", arguments.timeLimit, "nejdelší doba výpočtu v sekundách, jinak 60")
         ->option_text("SEKUNDY")
@@ -80,6 +107,7 @@ std::variant<Request, ReadyAnswer> parseArguments(int argc, const char* const* a
                                      : czechParseError(error);
         throw Failure(ExitCode::WrongUse, text + "\nNápověda: velor --help");
     }
+    if (auto answer = hiddenAnswer(program, arguments)) return *std::move(answer);
     return Request{chosenDatabase(program, arguments), outputForm(arguments), typedSeconds(arguments.timeLimit),
                    arguments.question};
 }

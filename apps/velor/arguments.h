@@ -8,7 +8,7 @@
 
 namespace velor::app {
 
-// A text that answers at once: help or version.
+// A text that answers at once: help, version, manual page or completions.
 using ReadyAnswer = std::string;
 
 // Failure(WrongUse) says what is wrong with the command line.

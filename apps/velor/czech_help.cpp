@@ -8,21 +8,7 @@ namespace velor::app {
 
 namespace {
 
-// The library's own formatter counts bytes, so that Czech descriptions would not stand in one column.
-std::string definition(const std::string& name, const std::string& description, std::size_t column) {
-    std::string text = "  " + name;
-    const std::size_t width = characterCount(text);
-    if (width + 2 > column) {
-        text += '\n' + std::string(column, ' ');
-    } else {
-        text += std::string(column - width, ' ');
-    }
-    for (const char c : description) {
-        text += c;
-        if (c == '\n') text += std::string(column, ' ');
-    }
-    return text + "\n";
-}
+constexpr std::size_t kDescriptionColumn = 28;
 
 class CzechFormatter : public CLI::Formatter {
   public:
@@ -33,16 +19,15 @@ class CzechFormatter : public CLI::Formatter {
         label("SUBCOMMANDS", "PŘÍKAZY");
         label("Positionals", "Co zadat");
         label("REQUIRED", "(povinné)");
-        column_width(28);
+        column_width(kDescriptionColumn);
     }
 
     std::string make_option(const CLI::Option* option, bool isPositional) const override {
-        return definition(make_option_name(option, isPositional) + make_option_opts(option), make_option_desc(option),
-                          get_column_width());
+        return definition(make_option_name(option, isPositional) + make_option_opts(option), make_option_desc(option));
     }
 
     std::string make_subcommand(const CLI::App* command) const override {
-        return definition(command->get_name(), command->get_description(), get_column_width());
+        return definition(command->get_name(), command->get_description());
     }
 
     // Only the name of the value; that a text is wanted and may be repeated needs no word.
@@ -66,6 +51,22 @@ std::string_view behind(std::string_view text, std::string_view mark) {
 std::string_view before(std::string_view text, std::string_view mark) { return text.substr(0, text.find(mark)); }
 
 }  // namespace
+
+// The library's own formatter counts bytes, so that Czech descriptions would not stand in one column.
+std::string definition(const std::string& name, const std::string& description) {
+    std::string text = "  " + name;
+    const std::size_t width = characterCount(text);
+    if (width + 2 > kDescriptionColumn) {
+        text += '\n' + std::string(kDescriptionColumn, ' ');
+    } else {
+        text += std::string(kDescriptionColumn - width, ' ');
+    }
+    for (const char c : description) {
+        text += c;
+        if (c == '\n') text += std::string(kDescriptionColumn, ' ');
+    }
+    return text + "\n";
+}
 
 std::shared_ptr<CLI::Formatter> czechFormatter() { return std::make_shared<CzechFormatter>(); }
 

@@ -7,6 +7,9 @@
 
 namespace velor::app {
 
+// A line of the help: a name and, in the column of descriptions, what it means.
+std::string definition(const std::string& name, const std::string& description);
+
 // Help with Czech headings, aligned by characters.
 std::shared_ptr<CLI::Formatter> czechFormatter();
 

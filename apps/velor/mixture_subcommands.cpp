@@ -3,6 +3,7 @@
 #include "picture.h"
 #include "temperatures.h"
 #include "typed_number.h"
+#include "value_names.h"
 
 namespace velor::app {
 
@@ -78,7 +79,7 @@ void addEquilibriumCommand(CLI::App& program, Arguments& arguments) {
     addPressure(command, arguments, kNormalPressure);
     command->add_option("--body", arguments.points, "počet bodů, jinak 21")->option_text("POČET")->group(kOptions);
     command->add_option("--graf", arguments.picture, "místo tabulky nakreslí obrázek .svg nebo .png")
-        ->option_text("SOUBOR")
+        ->option_text(kPictureValue)
         ->group(kOptions);
     addCommonOptions(command, arguments);
     command->footer("Příklad: velor rovnovaha --latky benzen,toluen --body 11");
@@ -96,7 +97,7 @@ void addEquilibriumCommand(CLI::App& program, Arguments& arguments) {
 void addGraphCommand(CLI::App& program, Arguments& arguments) {
     CLI::App* command =
         program.add_subcommand("graf", "nakreslí vlastnost látek nebo směsi proti teplotě")->group(kCommands);
-    command->add_option("VLASTNOST", arguments.property, "zkratka vlastnosti, viz velor vlastnost --seznam")
+    command->add_option(kPropertyValue, arguments.property, "zkratka vlastnosti, viz velor vlastnost --seznam")
         ->required()
         ->group(kOptions);
     addSubstances(command, arguments)->required();
@@ -105,7 +106,7 @@ void addGraphCommand(CLI::App& program, Arguments& arguments) {
     addPressure(command, arguments, "tlak v pascalech, pokud jej vlastnost potřebuje");
     addClamp(command, arguments);
     command->add_option("--vystup", arguments.picture, "soubor obrázku .svg nebo .png")
-        ->option_text("SOUBOR")
+        ->option_text(kPictureValue)
         ->required()
         ->group(kOptions);
     addCommonOptions(command, arguments);

@@ -3,6 +3,7 @@
 #include "failure.h"
 #include "temperatures.h"
 #include "typed_number.h"
+#include "value_names.h"
 
 namespace velor::app {
 
@@ -32,14 +33,14 @@ MixturePropertyRequest mixtureRequest(const MixtureProperty& property, const Arg
 }  // namespace
 
 CLI::Option* addSubstance(CLI::App* command, Arguments& arguments) {
-    return command->add_option("LÁTKA", arguments.substance, kWaysToName)->required()->group(kOptions);
+    return command->add_option(kSubstanceValue, arguments.substance, kWaysToName)->required()->group(kOptions);
 }
 
 CLI::Option* addSubstances(CLI::App* command, Arguments& arguments) {
     return command
         ->add_option("--latky", arguments.substances,
                      std::string("látky oddělené čárkou nebo středníkem:\n") + kWaysToName)
-        ->option_text("LÁTKY")
+        ->option_text(kSubstancesValue)
         ->group(kOptions);
 }
 

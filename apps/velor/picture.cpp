@@ -55,8 +55,10 @@ std::string script(const Picture& picture, bool isPng) {
 
 }  // namespace
 
+bool isPictureFileName(std::string_view name) { return endsIn(name, kSvg) || endsIn(name, kPng); }
+
 std::string pictureFileName(std::string_view name) {
-    if (endsIn(name, kSvg) || endsIn(name, kPng)) return std::string(name);
+    if (isPictureFileName(name)) return std::string(name);
     throw Failure(ExitCode::WrongUse, "Soubor obrázku „" + std::string(name) + "“ musí mít příponu .svg nebo .png.");
 }
 

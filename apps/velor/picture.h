@@ -21,6 +21,8 @@ struct Picture {
     std::vector<Curve> curves;
 };
 
+bool isPictureFileName(std::string_view name);  // ends in .svg or .png
+
 // The name of a picture file must end in .svg or .png: Failure(WrongUse) otherwise.
 std::string pictureFileName(std::string_view name);
 

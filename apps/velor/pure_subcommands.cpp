@@ -1,6 +1,7 @@
 #include "failure.h"
 #include "runtime/folding.h"
 #include "options.h"
+#include "value_names.h"
 
 namespace velor::app {
 
@@ -16,8 +17,8 @@ void requireProperty(const CLI::Option* property, const CLI::Option* substances)
 
 bool isByNumber(const std::string& order) {
     const std::string word = folded(order);
-    if (word == "CISEL") return true;
-    if (word == "NAZVU") return false;
+    if (word == folded(kOrderByNumber)) return true;
+    if (word == folded(kOrderByName)) return false;
     throw Failure(ExitCode::WrongUse, "Seznam lze řadit podle nazvu nebo cisel, zadáno: „" + order + "“.");
 }
 
@@ -32,7 +33,7 @@ void addSubstanceListCommand(CLI::App& program, Arguments& arguments) {
                      "vzorec, CAS), bez ohledu na velikost písmen a diakritiku")
         ->group(kOptions);
     command->add_option("--podle", arguments.order, "řazení podle nazvu (výchozí) nebo podle cisel")
-        ->option_text("POŘADÍ")
+        ->option_text(kOrderValue)
         ->group(kOptions);
     addCommonOptions(command, arguments);
     command->footer(
@@ -69,7 +70,7 @@ void addPropertyCommand(CLI::App& program, Arguments& arguments) {
     std::string codes = "zkratka vlastnosti směsi (viz --seznam) nebo čisté látky:";
     for (const PureProperty& property : pureProperties())
         codes.append("\n").append(property.code).append(7 - property.code.size(), ' ').append(property.caption);
-    const CLI::Option* property = command->add_option("VLASTNOST", arguments.property, codes)->group(kOptions);
+    const CLI::Option* property = command->add_option(kPropertyValue, arguments.property, codes)->group(kOptions);
     const CLI::Option* substances = addSubstances(command, arguments);
     addComposition(command, arguments);
     addTemperatures(command, arguments);

@@ -6,14 +6,16 @@
 #include <string>
 #include <vector>
 
+#include "completion.h"
 #include "requests.h"
+#include "value_names.h"
 
 namespace velor::app {
 
 // What stands on the command line.
 struct Arguments {
     std::vector<std::string> substance;
-    std::string order = "nazvu";
+    std::string order = kOrderByName;
     std::string property;
     bool list = false;
     std::string substances;
@@ -32,6 +34,7 @@ struct Arguments {
     std::string timeLimit = "60";
     bool csv = false;
     bool json = false;
+    CompletionRequest completion;
     decltype(Request::question) question;  // of the command given
 };
 

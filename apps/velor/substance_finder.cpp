@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <charconv>
 #include <functional>
-#include <string>
-#include <vector>
+#include <optional>
+#include <utility>
 
 #include "failure.h"
 #include "runtime/folding.h"
@@ -35,30 +35,26 @@ bool isDigits(std::string_view text) {
 }
 
 // "Water (H2O)" is also called Water, and "Sirovodík, Hydrogen sulfide" are two names.
-void addNames(std::vector<std::string>& names, std::string_view text) {
-    if (text.empty()) return;
-    names.push_back(folded(text));
-    if (const std::size_t bracket = text.find(" ("); bracket != std::string_view::npos && text.ends_with(')')) {
-        addNames(names, text.substr(0, bracket));
-        addNames(names, text.substr(bracket + 2, text.size() - bracket - 3));
-        return;
-    }
-    if (const std::size_t comma = text.find(", "); comma != std::string_view::npos) {
-        addNames(names, text.substr(0, comma));
-        addNames(names, text.substr(comma + 2));
-    }
+std::optional<std::pair<std::string_view, std::string_view>> twoNames(std::string_view text) {
+    if (const std::size_t bracket = text.find(" ("); bracket != std::string_view::npos && text.ends_with(')'))
+        return {{text.substr(0, bracket), text.substr(bracket + 2, text.size() - bracket - 3)}};
+    if (const std::size_t comma = text.find(", "); comma != std::string_view::npos)
+        return {{text.substr(0, comma), text.substr(comma + 2)}};
+    return std::nullopt;
 }
 
-std::vector<std::string> namesOf(const Substance& substance) {
-    std::vector<std::string> names;
-    addNames(names, substance.name);
-    addNames(names, substance.synonym);
-    return names;
+void addNames(std::vector<SubstanceName>& names, std::string_view text) {
+    if (text.empty()) return;
+    const auto parts = twoNames(text);
+    names.push_back({std::string(text), folded(text), !parts});
+    if (!parts) return;
+    addNames(names, parts->first);
+    addNames(names, parts->second);
 }
 
 bool isCalled(const Substance& substance, const std::string& name) {
     const auto names = namesOf(substance);
-    return std::find(names.begin(), names.end(), name) != names.end();
+    return std::ranges::find(names, name, &SubstanceName::folded) != names.end();
 }
 
 bool isCalledPartly(const Substance& substance, const std::string& part) {
@@ -99,7 +95,7 @@ Matches similarTo(const SubstanceList& substances, std::string_view wanted) {
     std::vector<std::pair<std::size_t, const Substance*>> ranked;
     for (const Substance& substance : substances) {
         std::size_t least = slips + 1;
-        for (const std::string& other : namesOf(substance))
+        for (const auto& [text, other, isSimple] : namesOf(substance))
             if (other.size() <= name.size() + slips && name.size() <= other.size() + slips)
                 least = std::min(least, editDistance(name, other));
         if (least <= slips) ranked.emplace_back(least, &substance);
@@ -153,6 +149,13 @@ std::vector<std::string> splitNames(const SubstanceList& substances, std::string
 }
 
 }  // namespace
+
+std::vector<SubstanceName> namesOf(const Substance& substance) {
+    std::vector<SubstanceName> names;
+    addNames(names, substance.name);
+    addNames(names, substance.synonym);
+    return names;
+}
 
 const Substance& findSubstance(const SubstanceList& substances, std::string_view wanted) {
     const std::string_view text = trimBlanks(wanted);

@@ -119,6 +119,10 @@ example() {
 
 command() {
     run "$prefix/bin/velor" latka voda | grep -q 7732-18-5
+    cmp "$source/apps/velor/velor.bash" "$prefix/share/bash-completion/completions/velor"
+    for folder in man1 cs/man1; do
+        grep -q 'VELOR.DRC' "$prefix/share/man/$folder/velor.1"
+    done
     run "$prefix/bin/velor-baze" rozloz "$prefix/share/velor/VELOR.DRC" "$work/tables"
     test -s "$work/tables/latky.csv"
 }

@@ -1,0 +1,20 @@
+// What may stand at the cursor of a command line that is being typed, for the shell's completion.
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+
+namespace velor::app {
+
+struct CompletionRequest {
+    std::string wordBreaks;  // the shell's COMP_WORDBREAKS
+    bool isList = false;     // the candidates are to be read, not to be put into the line
+    std::string before;      // the line before the cursor, from the name of the command on
+    std::string behind;      // the rest of it
+};
+
+// The first line says "nospace" where the word may go on behind the candidate, then one candidate a line. It asks and
+// reports nothing: where no database is found there are no candidates of it.
+std::string completionText(const CLI::App& program, const CompletionRequest& request);
+
+}  // namespace velor::app
