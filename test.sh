@@ -21,7 +21,7 @@ make_czech_locale() {
 }
 
 locales=$root/build/locales
-install_packages "${needed_to_build[@]}" locales pkg-config bash-completion groff-base man-db
+install_packages "${needed_to_build[@]}" locales pkg-config tmux bash-completion groff-base man-db
 make_czech_locale
 
 echo "== release, C"

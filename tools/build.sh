@@ -38,4 +38,4 @@ build() {
     (cd "$root" && quietly cmake --build --preset "$preset" ${1:+--target "$@"})
 }
 
-needed_to_build=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libgtest-dev gnuplot-nox)
+needed_to_build=(g++ cmake ninja-build libncurses-dev libcli11-dev nlohmann-json3-dev libgtest-dev gnuplot-nox)

@@ -5,14 +5,17 @@
 #include <exception>
 #include <iostream>
 #include <iterator>
+#include <memory>
 #include <string>
 #include <utility>
 
 #include "arguments.h"
 #include "commands.h"
+#include "dialogs.h"
 #include "failure.h"
 #include "mixture_dialog.h"
 #include "run_time_error_text.h"
+#include "substance_browser.h"
 #include "time_limit.h"
 
 namespace velor::app {
@@ -28,22 +31,34 @@ void write(const std::string& text) {
 }
 
 // The list of properties is known without a database.
-Report reportOn(const PropertyListRequest&, const Request&, UserInterface&) { return propertyList(); }
+Report reportOn(const PropertyListRequest&, const Request&, PatientUserInterface&) { return propertyList(); }
 
 template <class Question>
-Report reportOn(const Question& question, const Request& request, UserInterface& userInterface) {
+Report reportOn(const Question& question, const Request& request, PatientUserInterface& userInterface) {
     return answer(question, openDatabase(request.database, userInterface), userInterface);
 }
 
-// Whether to flash the mixture is decided with its overview before one's eyes: people read it at once. A program gets
-// both as one document.
+// Whoever reads the whole list on a terminal leafs through it.
+Report reportOn(const SubstanceListRequest& question, const Request& request, PatientUserInterface& user) {
+    const Database database = openDatabase(request.database, user);
+    if (!isOnScreen(request) || !canBrowse(database)) return answer(question, database, user);
+    browse(question, database, user);
+    return {};
+}
+
+// Whether to flash the mixture is decided with its overview before one's eyes: people read it at once, on a terminal in
+// the box that asks and once more in the end. A program gets both as one document.
 Report reportOn(const MixtureDialogRequest& question, const Request& request, PatientUserInterface& user) {
     const Database database = openDatabase(request.database, user);
     const Mixture mixture = askMixture(database, user);
     Report report = describeMixture(mixture, question.pressure);
     const bool isRead = request.form == OutputForm::Text;
-    if (isRead) write(asText(std::exchange(report, {})));
-    if (!isFlashWanted(user)) return report;
+    const std::string description = isRead ? asText(report) : std::string();
+    if (isRead && !isOnScreen(request)) write(description);
+    const bool isWanted = isFlashWanted(user, isRead && isOnScreen(request) ? description + "\n" : std::string());
+    if (isRead && isOnScreen(request)) write(description);
+    if (isRead) report = {};
+    if (!isWanted) return report;
     Report flash = askedFlash(mixture, user);
     if (isRead) {
         flash.text.insert(0, "\n");
@@ -55,7 +70,8 @@ Report reportOn(const MixtureDialogRequest& question, const Request& request, Pa
 
 std::string answerText(const Request& request) {
     TimeLimit limit(request.timeLimit);
-    PatientUserInterface userInterface(std::cin, std::cerr, limit);
+    const std::unique_ptr<UserInterface> dialogs = dialogsFor(request);
+    PatientUserInterface userInterface(*dialogs, std::cin, limit);
     const Report report =
         std::visit([&](const auto& question) { return reportOn(question, request, userInterface); }, request.question);
     return print(report, request.form);

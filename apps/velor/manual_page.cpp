@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "conventions.h"
-#include "folding.h"
+#include "runtime/folding.h"
 #include "runtime/text.h"
 
 namespace velor::app {

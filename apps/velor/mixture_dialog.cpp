@@ -64,8 +64,9 @@ Mixture askMixture(const Database& database, PatientUserInterface& user) {
     return mixtureOf(smes, database, X);
 }
 
-bool isFlashWanted(PatientUserInterface& user) {
-    const Answer answer = user.showMessage({"Spočítat flash této směsi?", Icon::None, "VELOR", Buttons::YesNo});
+bool isFlashWanted(PatientUserInterface& user, const std::string& description) {
+    const std::string question = description + "Spočítat flash této směsi?";
+    const Answer answer = user.showMessage({question, Icon::None, "VELOR", Buttons::YesNo});
     requireInput(user);
     return answer == Answer::Yes;
 }

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "mixture.h"
-#include "time_limit.h"
+#include "patient_user_interface.h"
 
 namespace velor::app {
 
@@ -10,7 +10,8 @@ namespace velor::app {
 // back, or the input ended.
 Mixture askMixture(const Database& database, PatientUserInterface& user);
 
-// Whether the user wants the mixture flashed. Failure(NothingComputed): the input ended.
-bool isFlashWanted(PatientUserInterface& user);
+// Whether the user wants the mixture flashed; the description stands before the question. Failure(NothingComputed): the
+// input ended.
+bool isFlashWanted(PatientUserInterface& user, const std::string& description);
 
 }  // namespace velor::app

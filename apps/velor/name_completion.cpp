@@ -1,6 +1,6 @@
 #include "name_completion.h"
 
-#include "folding.h"
+#include "runtime/folding.h"
 #include "runtime/text.h"
 
 namespace velor::app {

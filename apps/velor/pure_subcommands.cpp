@@ -1,6 +1,6 @@
 #include "failure.h"
-#include "runtime/folding.h"
 #include "options.h"
+#include "runtime/folding.h"
 #include "value_names.h"
 
 namespace velor::app {

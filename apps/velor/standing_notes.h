@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "report.h"
 #include "correlations/standing.h"
+#include "report.h"
 
 namespace velor::app {
 

@@ -5,8 +5,8 @@
 #include <set>
 
 #include "failure.h"
-#include "folding.h"
 #include "name_completion.h"
+#include "runtime/folding.h"
 #include "substance_finder.h"
 
 namespace velor::app {

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "failure.h"
-#include "runtime/folding.h"
 #include "item_list.h"
+#include "runtime/folding.h"
 #include "runtime/text.h"
 
 namespace velor::app {

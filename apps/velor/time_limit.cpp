@@ -54,44 +54,4 @@ void TimeLimit::watch() {
     }
 }
 
-Answer PatientUserInterface::showMessage(const Message& message) {
-    const TimeLimit::Pause pause(limit_);
-    return StreamUserInterface::showMessage(message);
-}
-
-std::string PatientUserInterface::askText(const InputRequest& request) {
-    const TimeLimit::Pause pause(limit_);
-    return StreamUserInterface::askText(request);
-}
-
-void PatientUserInterface::showForm(F_Sezn& form) {
-    const TimeLimit::Pause pause(limit_);
-    StreamUserInterface::showForm(form);
-}
-
-void PatientUserInterface::showForm(F_Seznam& form) {
-    const TimeLimit::Pause pause(limit_);
-    StreamUserInterface::showForm(form);
-}
-
-void PatientUserInterface::showForm(F_Sloz& form) {
-    const TimeLimit::Pause pause(limit_);
-    StreamUserInterface::showForm(form);
-}
-
-void PatientUserInterface::showForm(frmLatka& form) {
-    const TimeLimit::Pause pause(limit_);
-    StreamUserInterface::showForm(form);
-}
-
-void PatientUserInterface::showForm(F_Zmenaz& form) {
-    const TimeLimit::Pause pause(limit_);
-    StreamUserInterface::showForm(form);
-}
-
-void PatientUserInterface::showForm(frmOprav& form) {
-    const TimeLimit::Pause pause(limit_);
-    StreamUserInterface::showForm(form);
-}
-
 }  // namespace velor::app

@@ -3,11 +3,8 @@
 
 #include <chrono>
 #include <condition_variable>
-#include <istream>
 #include <mutex>
 #include <thread>
-
-#include "velor/user_interface.h"
 
 namespace velor::app {
 
@@ -46,29 +43,6 @@ class TimeLimit {
     int pauses_ = 0;  // that exist now
     bool isOver_ = false;
     std::thread watcher_;  // last, because it uses all above
-};
-
-// Questions and answers on streams that stop the clock while the user thinks.
-class PatientUserInterface : public StreamUserInterface {
-  public:
-    PatientUserInterface(std::istream& answers, std::ostream& messages, TimeLimit& limit)
-        : StreamUserInterface(answers, messages), input_(answers), limit_(limit) {}
-
-    Answer showMessage(const Message& message) override;
-    std::string askText(const InputRequest& request) override;
-    void showForm(F_Sezn& form) override;
-    void showForm(F_Seznam& form) override;
-    void showForm(F_Sloz& form) override;
-    void showForm(frmLatka& form) override;
-    void showForm(F_Zmenaz& form) override;
-    void showForm(frmOprav& form) override;
-
-    // Whether an answer was due after the end of input: then No or Back is nobody's decision.
-    bool isDeserted() const { return input_.fail(); }
-
-  private:
-    const std::istream& input_;
-    TimeLimit& limit_;
 };
 
 }  // namespace velor::app

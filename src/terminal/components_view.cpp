@@ -65,7 +65,7 @@ class ComponentsView {
   private:
     void addList() {
         List& list = search_.list();
-        list.hint = "písmena hledají · ↑↓ výběr · Enter nebo dvojklik přidá látku · Tab dál · Esc zpět";
+        list.hint = "písmena hledají · ↑↓ výběr · Enter přidá látku · Tab dál · Esc zpět";
         list.picked = [this](int) { form_.keyInList(kEnterKey); };
     }
 

@@ -165,12 +165,24 @@ void List::search(const std::string& text) {
     shown_.clear();
     for (std::size_t i = 0; i < folded_.size(); ++i)
         if (folded_[i].find(wanted) != std::string::npos) shown_.push_back(static_cast<int>(i));
-    if (std::find(shown_.begin(), shown_.end(), current_) == shown_.end()) moveTo(0);
+    if (text.empty() && position() >= 0) return;
+    moveTo(bestPosition(wanted));
+}
+
+// Whoever types a name means the line that begins with it; a number may stand before it.
+int List::bestPosition(const std::string& wanted) const {
+    const auto begins = [&](int index) {
+        const std::string& line = folded_[static_cast<std::size_t>(index)];
+        const std::size_t name = std::min(line.find_first_not_of("0123456789 "), line.size());
+        return line.starts_with(wanted) || line.compare(name, wanted.size(), wanted) == 0;
+    };
+    const auto best = std::find_if(shown_.begin(), shown_.end(), begins);
+    return best == shown_.end() ? 0 : static_cast<int>(best - shown_.begin());
 }
 
 int List::position() const {
     const auto at = std::find(shown_.begin(), shown_.end(), current_);
-    return at == shown_.end() ? 0 : static_cast<int>(at - shown_.begin());
+    return at == shown_.end() ? -1 : static_cast<int>(at - shown_.begin());
 }
 
 void List::moveTo(int position) {
@@ -180,7 +192,7 @@ void List::moveTo(int position) {
 }
 
 void List::draw(Canvas& canvas, bool hasFocus) {
-    const int count = static_cast<int>(shown_.size()), here = position();
+    const int count = static_cast<int>(shown_.size()), here = std::max(0, position());
     top_ = std::clamp(top_, std::max(0, here - area.rows + 1), here);
     top_ = std::clamp(top_, 0, std::max(0, count - area.rows));
     for (int line = 0; line < area.rows && top_ + line < count; ++line) {
@@ -223,13 +235,16 @@ bool List::scroll(const Event& event) {
 }
 
 void List::pick() {
-    if (picked && !shown_.empty()) picked(current_);
+    if (shown_.empty()) return;
+    isSearchDone_ = true;
+    if (picked) picked(current_);
 }
 
 bool List::key(const Event& event) {
     if (scroll(event) || (before && before(event))) return true;
     std::string text = searched_;
     if (event.kind == Event::Kind::Character) {
+        if (isSearchDone_) text.clear();
         appendCodePoint(text, event.character);
     } else if (event.is(Key::Backspace) && !text.empty()) {
         text.erase(byteAt(text, lengthOf(text) - 1));
@@ -241,6 +256,7 @@ bool List::key(const Event& event) {
     } else {
         return false;
     }
+    isSearchDone_ = false;
     search(text);
     return true;
 }

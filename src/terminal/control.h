@@ -116,7 +116,8 @@ class List : public Control {
 
   private:
     void moveTo(int position);
-    int position() const;
+    int position() const;  // of the selected item among those shown; -1 where it is not
+    int bestPosition(const std::string& wanted) const;
     void pick();
 
     const std::vector<std::string>& items_;
@@ -124,8 +125,9 @@ class List : public Control {
     std::vector<std::string> folded_;  // the items as they are searched
     std::vector<int> shown_;           // indices of the items that hold the searched text
     std::string searched_;
-    int current_;  // index of the selected item
-    int top_ = 0;  // position of the first line shown
+    bool isSearchDone_ = false;  // an item was picked: the next letter begins another search
+    int current_;                // index of the selected item
+    int top_ = 0;                // position of the first line shown
     int clickedItem_ = -1;
     long long clickedAt_ = 0;  // ms
 };

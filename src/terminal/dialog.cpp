@@ -32,6 +32,7 @@ void Dialog::drawFrame(const Places& at) {
     Canvas canvas(screen_, at.outer);
     const int last = at.outer.rows - 1, width = at.outer.columns;
     if (!boxSize) {
+        screen_.clear();  // what lies below is out of sight
         canvas.fill(0, 0, width, Style::Reversed);
         canvas.write(0, 1, width - 2, title, Style::Reversed);
         if (focused_) canvas.write(last, 1, width - 2, focused_->hint, Style::Dim);
@@ -84,7 +85,6 @@ void Dialog::focus(const Control& control) {
     const auto found = std::find_if(controls_.begin(), controls_.end(), [&](auto& c) { return c.get() == &control; });
     if (found == controls_.end()) return;
     followsFocus_ = true;
-    if (focused_ == found->get()) return;
     focused_ = found->get();
     focused_->focused();
 }

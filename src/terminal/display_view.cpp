@@ -23,15 +23,20 @@ std::string constantLine(const frmLatka::Constant& constant) {
 std::string coefficientsLine(const CorrelationText& correlation) {
     std::string text;
     for (std::size_t j = 0; j < correlation.A.size(); ++j)
-        text += "A" + std::to_string(j + 1) + " = " + correlation.A[j] + "   ";
+        text += "A" + std::to_string(j + 1) + " = " + correlation.A[j] + "  ";
     return text;
 }
 
 std::string correlationText(const CorrelationText& correlation) {
     if (!correlation.isGiven) return correlation.caption + ": neobsazeno";
-    std::string text = std::to_string(correlation.Typ) + ": " + correlation.Vztah + "\n" +
-                       std::string(trimBlanks(coefficientsLine(correlation))) + "\n" + correlation.range;
-    return correlation.note.empty() ? text : text + "   " + correlation.note;
+    return std::to_string(correlation.Typ) + ": " + correlation.Vztah + "\n" +
+           std::string(trimBlanks(coefficientsLine(correlation))) + "\n" + correlation.range;
+}
+
+std::string valueText(const frmLatka& form) {
+    const CorrelationText& correlation = form.selectedCorrelation();
+    const std::string text = correlation.code + ": " + form.Hodnota;
+    return correlation.note.empty() ? text : text + "\n" + correlation.note;
 }
 
 class DisplayView {
@@ -48,8 +53,7 @@ class DisplayView {
           temperatureCaption_(dialog_.add<Label>([this] { return form_.T_TeplotaPopis; })),
           temperature_(dialog_.add<TextField>([this] { return form_.T_Teplota.text; },
                                               [this](std::string text) { form_.setTemperature(std::move(text)); })),
-          value_(dialog_.add<Label>([this] { return form_.selectedCorrelation().code + ": " + form_.Hodnota; },
-                                    Style::Bold)),
+          value_(dialog_.add<Label>([this] { return valueText(form_); }, Style::Bold)),
           compute_(dialog_.add<Button>([this] { return form_.C_VypocetCaption; }, [this] { form_.clickC_Vypocet(); })),
           back_(dialog_.add<Button>([this] { return form_.C_ZpetCaption; }, [this] { form_.clickC_Zpet(); })) {
         for (const frmLatka::Constant& constant : form.Konstanty)

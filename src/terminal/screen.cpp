@@ -190,21 +190,20 @@ void Screen::clear() { erase(); }
 int Screen::write(int row, int column, int from, int to, std::string_view text, Style style) {
     const Size area = size();
     to = std::min(to, area.columns);
-    std::string visible;
+    std::wstring visible;  // single bytes the library may take for control characters
     int start = column;
     for (std::string_view rest = text; !rest.empty();) {
-        const std::string_view before = rest;
-        const char32_t c = takeCodePoint(rest);
-        const int width = std::max(0, wcwidth(static_cast<wchar_t>(c)));
+        const auto c = static_cast<wchar_t>(takeCodePoint(rest));
+        const int width = std::max(0, wcwidth(c));
         if (column >= from && column + width <= to) {
             if (visible.empty()) start = column;
-            visible += before.substr(0, before.size() - rest.size());
+            visible += c;
         }
         column += width;
     }
     if (row < 0 || row >= area.rows || visible.empty()) return column;
     attrset(static_cast<int>(attribute(style)));
-    mvaddstr(row, start, visible.c_str());
+    mvaddwstr(row, start, visible.c_str());
     attrset(A_NORMAL);
     return column;
 }

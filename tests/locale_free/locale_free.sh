@@ -6,6 +6,8 @@ cd "$1"
 
 # Lines that may stay, each with its reason.
 allowed=(
+    'newlocale(LC_CTYPE_MASK,'  # the full screen's characters are UTF-8 in any locale; the thread alone, no number depends on it
+    'uselocale('  # the same
     'newlocale(LC_TIME_MASK,'  # the date in the list of substances is the user's own; no number depends on it
 )
 

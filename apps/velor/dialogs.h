@@ -1,0 +1,17 @@
+// How the command's dialogs are led: on the whole screen, or by questions and answers.
+#pragma once
+
+#include <memory>
+
+#include "requests.h"
+#include "velor/user_interface.h"
+
+namespace velor::app {
+
+// The dialog that defines a mixture and the whole list of substances take a terminal's whole screen. Where there is no
+// such terminal, and for the few questions of the other commands, there are lines of text.
+bool isOnScreen(const Request& request);
+
+std::unique_ptr<UserInterface> dialogsFor(const Request& request);
+
+}  // namespace velor::app
