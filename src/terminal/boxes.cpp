@@ -27,10 +27,6 @@ Size boxSize(const std::string& text, int leastWidth, int rowsBelow, Size screen
     return {static_cast<int>(wrappedLines(text, width).size()) + rowsBelow + 2, width + kFrame};
 }
 
-Style titleStyle(Icon icon) {
-    return icon == Icon::Critical ? Style::Error : icon == Icon::Exclamation ? Style::Warning : Style::Plain;
-}
-
 std::string iconText(Icon icon) {
     switch (icon) {
         case Icon::Critical:
@@ -55,7 +51,8 @@ Answer showBox(Screen& screen, const Message& message) {
         answer = with;
         isOpen = false;
     };
-    Label& text = dialog.add<Label>([&] { return message.text; }, titleStyle(message.icon));
+    Label& text = dialog.add<Label>([&] { return message.text; });
+    if (message.icon == Icon::Critical) dialog.titleStyle = Style::Error;
     std::vector<Button*> buttons;
     const auto addButton = [&](const std::string& caption, Answer with) {
         buttons.push_back(&dialog.add<Button>([caption] { return caption; }, [&close, with] { close(with); }));

@@ -47,7 +47,7 @@ void Dialog::drawFrame(const Places& at) {
         canvas.write(row, width - 1, 1, "│");
     }
     canvas.write(last, 0, width, "└" + line + "┘");
-    canvas.write(0, 2, width - 4, " " + title + " ", Style::Bold);
+    canvas.write(0, 2, width - 4, " " + title + " ", titleStyle);
 }
 
 int Dialog::pageLength() const {

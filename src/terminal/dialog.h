@@ -24,6 +24,7 @@ class Dialog : public Screen::Layer {
     std::function<bool(const Event&)> before;
     std::function<void()> after;        // behind every event: the view follows the form's focus
     std::function<Size(Size)> boxSize;  // of a box over what is there; without it the whole screen is taken
+    Style titleStyle = Style::Bold;     // of a box
     int pinnedRows = 0;                 // at the end of the screen, for controls that do not scroll
 
     template <class C, class... Arguments>

@@ -33,9 +33,13 @@ class Utf8Characters {
     locale_t before_;
 };
 
+// An xterm may be set to send an accented letter for Alt and a letter; meanwhile it is asked for Escape and the letter.
+// Its own setting is saved and comes back; other terminals pass over that.
+constexpr const char* kAltSendsEscape = "\033[?1036s\033[?1039s\033[?1036h\033[?1039h";
+constexpr const char* kAltAsBefore = "\033[?1036r\033[?1039r";
 constexpr const char* kMouseOff = "\033[?1006l\033[?1002l\033[?1000l";
 constexpr int kEscapeDelay = 50;  // ms that a key's sequence may take
-constexpr short kWarningPair = 1, kErrorPair = 2;
+constexpr short kErrorPair = 1;
 
 bool coloursAreWanted() { return has_colors() && std::getenv("NO_COLOR") == nullptr; }
 
@@ -49,8 +53,6 @@ attr_t attribute(Style style) {
             return A_UNDERLINE;
         case Style::Reversed:
             return A_REVERSE;
-        case Style::Warning:
-            return A_BOLD | (coloursAreWanted() ? static_cast<attr_t>(COLOR_PAIR(kWarningPair)) : 0);
         case Style::Error:
             return A_BOLD | (coloursAreWanted() ? static_cast<attr_t>(COLOR_PAIR(kErrorPair)) : 0);
         case Style::Plain:
@@ -130,6 +132,12 @@ Event escapeEvent() {
 struct Screen::Terminal {
     Utf8Characters characters;
     SCREEN* screen = nullptr;
+    std::FILE* output = nullptr;
+
+    void send(const char* bytes) const {
+        std::fputs(bytes, output);
+        std::fflush(output);
+    }
 };
 
 bool Screen::isPossible(std::FILE* input, std::FILE* output) {
@@ -143,8 +151,10 @@ Screen::Screen(std::FILE* input, std::FILE* output) : terminal_(std::make_unique
     terminal_->screen = newterm(nullptr, output, input);
     if (!terminal_->screen) throw std::runtime_error("terminál nelze použít");
     set_term(terminal_->screen);
-    RestoreOnSignal::undoWith(std::string(kMouseOff) + capability("rmkx") + capability("sgr0") + capability("cnorm") +
-                              capability("rmcup"));
+    terminal_->output = output;
+    terminal_->send(kAltSendsEscape);
+    RestoreOnSignal::undoWith(std::string(kAltAsBefore) + kMouseOff + capability("rmkx") + capability("sgr0") +
+                              capability("cnorm") + capability("rmcup"));
     cbreak();
     noecho();
     nonl();
@@ -155,7 +165,6 @@ Screen::Screen(std::FILE* input, std::FILE* output) : terminal_(std::make_unique
     if (coloursAreWanted()) {
         start_color();
         use_default_colors();
-        init_pair(kWarningPair, COLOR_YELLOW, -1);
         init_pair(kErrorPair, COLOR_RED, -1);
     }
 }
@@ -163,6 +172,7 @@ Screen::Screen(std::FILE* input, std::FILE* output) : terminal_(std::make_unique
 Screen::~Screen() {
     curs_set(1);
     endwin();
+    terminal_->send(kAltAsBefore);
     delscreen(terminal_->screen);
 }
 

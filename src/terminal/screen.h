@@ -12,7 +12,7 @@
 
 namespace velor::terminal {
 
-enum class Style { Plain, Bold, Dim, Underlined, Reversed, Warning, Error };
+enum class Style { Plain, Bold, Dim, Underlined, Reversed, Error };
 
 class RestoreOnSignal;
 
