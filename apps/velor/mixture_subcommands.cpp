@@ -48,7 +48,8 @@ void addMixtureCommand(CLI::App& program, Arguments& arguments) {
         ->group(kOptions);
     addCommonOptions(command, arguments);
     command->footer(
-        "Povinné je buď --latky, nebo --dialog.\n"
+        "Povinné je buď --latky, nebo --dialog. Dialog zabere celou obrazovku terminálu;\n"
+        "kde žádný není, ptá se po řádcích.\n"
         "Příklady: velor smes --latky benzen,toluen --slozeni 0.5,0.5\n"
         "          velor smes --dialog -P 200000");
     command->callback([&, substances] { arguments.question = mixtureQuestion(arguments, substances); });
