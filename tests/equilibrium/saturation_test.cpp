@@ -42,16 +42,6 @@ TEST(Saturation, idealMixturesBoilAndCondenseByRaoultsLaw) {
     }
 }
 
-TEST(Saturation, orderSplitAndZeroComponentsDoNotMatter) {
-    RealMixture pair({kBenzene, kToluene}), split({kToluene, kBenzene, kToluene, kOctane}), pure({kBenzene});
-    for (const auto method : {&Smes::TBV, &Smes::TRB}) {
-        const double whole = (pair.smes.*method)(kAtmosphere, Fractions({0.4, 0.6})).toDouble();
-        EXPECT_NEAR((split.smes.*method)(kAtmosphere, Fractions({0.3, 0.4, 0.3, 0})).toDouble(), whole, 1e-9);
-        const double boiling = (pure.smes.*method)(kAtmosphere, Fractions({1.0})).toDouble();
-        EXPECT_NEAR((pair.smes.*method)(kAtmosphere, Fractions({1 - 1e-9, 1e-9})).toDouble(), boiling, 1e-5);
-    }
-}
-
 TEST(Saturation, everySubstanceBoilsWhereItsVapourPressureIsTheGivenOne) {
     const int count = RecordFile(VELOR_DATABASE).count();
     for (int number = 1; number <= count; ++number) {
