@@ -1,6 +1,4 @@
 // The list of the database and SEZNAM.DAT, byte for byte.
-#include <gtest/gtest.h>
-
 #include "platform/system.h"
 #include "support/sample_mixture.h"
 
@@ -14,13 +12,6 @@ TLatka substance(std::string_view name, std::string_view synonym, std::string_vi
     setText(record.Vzorec, formula);
     record.CAS = registryNumber;
     return record;
-}
-
-std::vector<TLatka> substances(int count) {
-    std::vector<TLatka> records;
-    for (int number = 1; number <= count; ++number)
-        records.push_back(sampleSubstance(number, "Látka " + std::to_string(count - number)));
-    return records;
 }
 
 struct SubstanceListTest : ::testing::Test {
@@ -80,16 +71,16 @@ TEST_F(SubstanceListTest, isWrittenByteForByte) {
 }
 
 TEST_F(SubstanceListTest, hasRoomFor900AndShows800) {
-    useDatabase(substances(800));
+    useDatabase(sampleSubstances(800));
     boxes.nextTexts = {"0"};
     smes.SeznamShow();
-    useDatabase(substances(900));
+    useDatabase(sampleSubstances(900));
     smes.SeznamShow(3);
     EXPECT_EQ(smes.PocLatek(), 800);  // what is there is not built again
     smes.AkSeznam();
     EXPECT_EQ(smes.PocLatek(), 900);
     EXPECT_EQ(errorNumber([&] { smes.SeznamShow(); }), 9);
-    useDatabase(substances(901));
+    useDatabase(sampleSubstances(901));
     EXPECT_EQ(errorNumber([&] { smes.AkSeznam(); }), 9);
     EXPECT_EQ(smes.PocLatek(), 900);
 }
