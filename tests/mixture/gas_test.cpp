@@ -41,16 +41,6 @@ TEST(GasRules, conductivityHasItsTextbookShapeAndLimits) {
     EXPECT_DOUBLE_EQ(pairFactor(0.03F, 0.07F).ratioRoot, std::pow(static_cast<double>(0.03F / 0.07F), -0.25));
 }
 
-TEST(GasRules, raiseTheClassicErrors) {
-    const std::vector<double> x{0.5, 0.5}, none{0, 0}, eta{1e-5, 2e-5}, lambda{0.01, 0.02}, negative{-1, 0.05};
-    EXPECT_EQ(errorNumber([&] { gasViscosity(x, negative, eta); }), RunTimeError::kInvalidCall);
-    EXPECT_EQ(errorNumber([&] { gasViscosity(std::vector<double>{0, 1}, negative, eta); }), 0);
-    EXPECT_EQ(errorNumber([&] { conductivity(x, {0.03F, 0.05F}, none, lambda); }), RunTimeError::kDivisionByZero);
-    EXPECT_EQ(errorNumber([&] { conductivity(x, {0.03F, 0.05F}, negative, lambda); }), RunTimeError::kInvalidCall);
-    EXPECT_EQ(errorNumber([&] { pairFactor(1, 0); }), RunTimeError::kDivisionByZero);
-    EXPECT_EQ(errorNumber([&] { pairFactor(1, -1); }), RunTimeError::kInvalidCall);
-}
-
 struct GasTest : SampleTest {
     static std::vector<TLatka> substances() {
         std::vector<TLatka> records = sampleSubstances(3);

@@ -136,11 +136,9 @@ TEST(IdealGas, integralsOfEveryTypeAndRangeAgreeWithAQuadrature) {
 // ---- The solver ----------------------------------------------------------------------------------------------------
 
 std::vector<TLatka> substances() {
-    std::vector<TLatka> records;
-    for (int number = 1; number <= 3; ++number) {
-        records.push_back(sampleSubstance(number, "Látka"));
-        TLatka& record = records.back();
-        const auto n = static_cast<float>(number);
+    std::vector<TLatka> records = sampleSubstances(3);
+    for (TLatka& record : records) {
+        const float n = record.Cislo;
         record.Mv = 0.02F + 0.01F * n, record.Tkr = 450 + 50 * n, record.Acent = 0.1F * n, record.Tnbv = 340 + 5 * n;
     }
     return records;
@@ -161,23 +159,15 @@ struct SolverTest : SampleTest {
     }
 };
 
-const std::vector<Variant> kAllEmpty(8);
-
 TEST_F(SolverTest, leavesNothingWhereItCannotSolve) {
+    const Variant negative = Fractions({1.5, -0.5});  // no logarithm of it
     const std::tuple<Variant, Variant, Variant> unsolvable[] = {
-        {0, 101325, X},
-        {-300, 101325, X},
-        {1e-160, 101325, X},
-        {std::nan(""), 101325, X},
-        {300, 0, X},
-        {300, -1e5, X},
-        {300, 101325, Fractions({0, 0})},
-        {300, 101325, Fractions({1.5, -0.5})}};  // no logarithm of the fraction
+        {0, 101325, X}, {-300, 101325, X}, {1e-160, 101325, X}, {std::nan(""), 101325, X},
+        {300, 0, X},    {300, -1e5, X},    {300, 1e5, negative}};
     for (const auto& [T, P, x] : unsolvable) {
         ASSERT_FALSE(smes.TEVRP(1, 300, 101325, X).isEmpty());
-        EXPECT_TRUE(smes.TEVRP(1, T, P, x).isEmpty()) << T.toText();
-        EXPECT_EQ(members(), kAllEmpty) << T.toText();
-        EXPECT_TRUE(smes.RHGW(T, P, x).isEmpty() && smes.Kapa(T, P, x).isEmpty() && smes.RROGW(T, P, x).isEmpty());
+        EXPECT_TRUE(smes.TEVRP(1, T, P, x).isEmpty());
+        EXPECT_EQ(members(), std::vector<Variant>(8));
     }
     smes.ChyboveHlasky(-1);
     EXPECT_EQ(trapSource([&] { smes.TEVRP(1, std::nan(""), 101325, X); }), "VELOR - TEVRP; T(K)=  ,P(Pa)= 101325");
@@ -210,12 +200,12 @@ TEST_F(SolverTest, fillsTwoMembersInEveryModeButTheFirst) {
 TEST_F(SolverTest, needsCriticalValuesOfComponentsThatArePresent) {
     for (const int constant : {2, 3})
         for (const double unknown : {0.0, -9999.0}) {
-            const float kept = smes.Bod(2, constant);
+            define(smes);
+            smes.ZapisNslozky(2, 2);
+            smes.Inivlr();
             smes.Bod(2, constant, unknown);
             EXPECT_TRUE(smes.RHG(300, 101325, X).isEmpty()) << constant;
             EXPECT_FALSE(smes.RHG(300, 101325, Fractions({1, 0})).isEmpty()) << constant;
-            smes.Bod(2, constant, kept);
-            EXPECT_FALSE(smes.RHG(300, 101325, X).isEmpty());
         }
 }
 
