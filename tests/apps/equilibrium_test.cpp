@@ -32,19 +32,15 @@ Outcome flash(const std::string& more) {
 }
 
 TEST(FlashTest, productsMakeUpTheFeed) {
-    for (const std::string more : {"-T 345 --json", "-T 400 --adiabaticky --json", "-T 300 --json"}) {
-        const auto answer = flash(more).json();
-        const double V = answer["flash"]["V"]["hodnota"];
-        for (const auto& row : answer["slozky"]) {
-            const double x = row["x"], y = row["y"];
-            EXPECT_NEAR(V * y + (1 - V) * x, row["z"], 2e-3);
-            if (row["K"].is_number()) {
-                EXPECT_NEAR(row["K"], y / x, 2e-2);
-            }
-        }
-        EXPECT_EQ(answer["slozky"][0]["K"].is_null(), answer["flash"]["vysledek"] == "vše kapalné");
+    const auto answer = flash("-T 400 --adiabaticky --json").json();
+    const double V = answer["flash"]["V"]["hodnota"];
+    EXPECT_LT(answer["flash"]["T"]["hodnota"], 399);
+    for (const auto& row : answer["slozky"]) {
+        const double x = row["x"], y = row["y"];
+        EXPECT_NEAR(V * y + (1 - V) * x, row["z"], 2e-3);
+        EXPECT_NEAR(row["K"], y / x, 2e-2);
     }
-    EXPECT_LT(flash("-T 400 --adiabaticky --json").json()["flash"]["T"]["hodnota"], 399);
+    EXPECT_TRUE(flash("-T 300 --json").json()["slozky"][0]["K"].is_null());  // all liquid
 }
 
 TEST(FlashTest, theTextIsTheLibrarysReport) {

