@@ -95,13 +95,8 @@ TEST_F(Entry, refusesWhatCannotBeAComposition) {
     enter({"1", "1", "2"});
     const Variant before[] = {X, W, smes.MolZlomky(1)};
     enterNext({"1", "-0.5", "-1"});
-    try {
-        smes.ZadejSloz(n, X, W);
-        FAIL();
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.number(), RunTimeError::kRaisedToHost);
-        EXPECT_EQ(error.source() + ": " + error.description(), "ZadejSloz: 2. složení je záporné!");
-    }
+    EXPECT_EQ(raised([&] { smes.ZadejSloz(n, X, W); }),
+              (Raised{RunTimeError::kRaisedToHost, "ZadejSloz", "2. složení je záporné!"}));
     EXPECT_EQ(enter({"1e999", "0", "0"}), 6);
     smes.ChyboveHlasky(2);  // no message, and no second chance
     EXPECT_EQ(enter({"", "", ""}), 11);

@@ -39,7 +39,8 @@ TEST(ListForm, asksForTheOrderOrTheText) {
     };
     // clang-format off
     const Case cases[] = {
-        {Variant::missing(), {"0"}, order, byName, -1, -1}, {0, {"1"}, order, byNumber, 0, -1}, {1, {"1 "}, order, byName, 1, -1}, {Variant(), {"x"}, order, byName, 0, -1},
+        {Variant::missing(), {"0"}, order, byName, -1, -1}, {0, {"1"}, order, byNumber, 0, -1},
+        {1, {"1 "}, order, byName, 1, -1}, {Variant(), {"x"}, order, byName, 0, -1},
         {1, {"2", "ANOL"}, {order[0], wanted[0]}, {"001", "004"}, 2, 2}, {2, {"aceton*"}, wanted, {"003"}, 2, 1},
         {2, {"*"}, wanted, byName, 2, 4}, {2, {"žluť 50%"}, wanted, {"002"}, 2, 1},
         {2, {"004 "}, wanted, {"004"}, 2, 1},

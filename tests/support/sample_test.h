@@ -49,14 +49,10 @@ inline const Unreadable kUnreadable[] = {
 // The source of the error that the body raises in mode -1; its number and description are every trap's own.
 template <class Body>
 std::string trapSource(const Body& body) {
-    try {
-        body();
-    } catch (const RunTimeError& error) {
-        EXPECT_EQ(error.number(), RunTimeError::kRaisedToHost);
-        EXPECT_EQ(error.description(), "Chyba při výpočtu vlastnosti!");
-        return error.source();
-    }
-    return "nothing raised";
+    const Raised error = raised(body);
+    EXPECT_EQ(error.number, RunTimeError::kRaisedToHost);
+    EXPECT_EQ(error.description, "Chyba při výpočtu vlastnosti!");
+    return error.source;
 }
 
 // The root of a rising function.
