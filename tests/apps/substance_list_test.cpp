@@ -83,9 +83,7 @@ TEST_F(SubstanceListTest, numbersMayHaveFourDigits) {
     records[1233] = sampleSubstance(1234, "A");
     const std::string path = folder.write("VELOR.DRC", databaseBytes(records));
     EXPECT_EQ(numbersOf(run({"seznam", "--json", "--baze", path})), (Numbers{1234, 234, 34}));
-    for (int number = 1; number <= 901; ++number)
-        records[static_cast<std::size_t>(number - 1)] = sampleSubstance(number, "Látka");
-    folder.write("VELOR.DRC", databaseBytes(records));
+    folder.write("VELOR.DRC", databaseBytes(sampleSubstances(901)));
     expectFailure(run({"seznam", "--baze", path}), 1, "Seznam látek nelze sestavit: ");
 }
 

@@ -18,10 +18,6 @@ struct LoadTest : SampleTest {
     LoadTest() : SampleTest(substances()) {}
 };
 
-Message notInDatabase(int number) {
-    return {"INIVLR: Látka č.  " + std::to_string(number) + " není v bázi!", Icon::Exclamation, "VELOR"};
-}
-
 TEST_F(LoadTest, countsTheLeadingSlots) {
     smes.ZapisNslozky(1, 2);
     smes.ZapisNslozky(2, 4);
@@ -37,18 +33,19 @@ TEST_F(LoadTest, countsTheLeadingSlots) {
 }
 
 TEST_F(LoadTest, stopsAtTheFirstMissingSubstance) {
-    for (const int number : {3, 5, 6, 9, 32767}) {  // blank, zero bytes, blank, beyond the end
-        messages.clear();
+    smes.MaxErrHlas(0);
+    for (const int number : {3, 5, 9, 32767}) {  // blank, zero bytes, beyond the end
         smes.ZapisNslozky(1, 4);
         smes.ZapisNslozky(2, number);
         smes.ZapisNslozky(3, 1);
-        smes.MaxErrHlas(0);
-        EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0})) << number;
-        EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0})) << number;  // tries again
-        EXPECT_EQ(messages, (std::vector{notInDatabase(number), notInDatabase(number)}));
+        for (int time = 0; time < 2; ++time) {  // tries again
+            EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0})) << number;
+            EXPECT_EQ(messages.back(), (Message{"INIVLR: Látka č.  " + std::to_string(number) + " není v bázi!",
+                                                Icon::Exclamation, "VELOR"}));
+        }
         EXPECT_EQ(smes.Nslozky(1).toInt16(), 4);
-        EXPECT_EQ(smes.Nslozky(2).toInt16(), 0);
     }
+    EXPECT_EQ(messages.size(), 8U);
 }
 
 TEST_F(LoadTest, acceptsZeroBytesWhileMessagesAreOff) {
