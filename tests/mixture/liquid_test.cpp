@@ -228,11 +228,8 @@ TEST_F(LiquidTest, whatCannotBeComputedIsTrappedOrRaisedOrCountsAsZero) {
     const Damage masses = [](Smes& s) { s.Bod(1, 1, 0), s.Bod(2, 1, 0); };
     const Damage boiling = [](Smes& s) { s.Bod(2, 15, 0); };
     const Damage components = [](Smes& s) { s.ResetujSmes(); };
-    struct Case {
-        Damage damage;
-        std::string empty, zero, raised;  // the methods that answer so; raised is always 11
-    };
-    const Case cases[] = {
+    // The methods that answer so; what is raised is always 11.
+    const std::tuple<Damage, std::string, std::string, std::string> cases[] = {
         {density, "ROLW ETAL SIGMA", "PrL", "ReL ObjRozL"},
         {viscosity, "ETAL", "PrL", "ReL"},
         {tension, "SIGMA", "", ""},
@@ -240,18 +237,18 @@ TEST_F(LiquidTest, whatCannotBeComputedIsTrappedOrRaisedOrCountsAsZero) {
         {masses, "ROLW ETAL ALAL", "", "CPLW DHVW HLW SLW PrL"},
         {boiling, "SL", "SLW", ""},
         {components, "ROLW ETAL ALAL", "SL SIGMA TENS CPL DHV HL", "CPLW DHVW HLW SLW PrL ReL ObjRozL"}};
-    for (const Case& c : cases)
-        for (const auto& [names, expected, number] :
-             {std::tuple{c.empty, Variant(), 0}, {c.zero, Variant(0.0), 0}, {c.raised, Variant(), 11}}) {
-            std::istringstream list(names);
-            for (std::string name; list >> name;) {
-                define({2, 3});
-                c.damage(smes);
-                Variant result;
-                EXPECT_EQ(errorNumber([&] { result = call(name, half); }), number) << name;
-                EXPECT_EQ(result, expected) << name << " of case " << &c - cases;
-            }
+    const auto check = [&](Damage damage, const std::string& names, const Variant& expected, int number) {
+        std::istringstream list(names);
+        for (std::string name; list >> name;) {
+            define({2, 3});
+            damage(smes);
+            Variant result;
+            EXPECT_EQ(errorNumber([&] { result = call(name, half); }), number) << name;
+            EXPECT_EQ(result, expected) << name;
         }
+    };
+    for (const auto& [damage, empty, zero, raising] : cases)
+        check(damage, empty, {}, 0), check(damage, zero, 0.0, 0), check(damage, raising, {}, 11);
     define({2, 3});
     EXPECT_TRUE(smes.SL(-10, half).isEmpty());
     EXPECT_EQ(errorNumber([&] { smes.ReL(350, half, "fast", 1); }), 13);

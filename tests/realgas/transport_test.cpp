@@ -54,7 +54,7 @@ struct TransportTest : SampleTest {
         smes.DefSlozky(List({1, 2}));
         smes.Inivlr();
     }
-    double value(const Variant& result) { return result.toDouble(); }
+    static double value(const Variant& result) { return result.toDouble(); }
 };
 
 TEST_F(TransportTest, isTheLowPressureValueAndTheExcess) {
