@@ -44,6 +44,7 @@ TEST_F(LoadTest, stopsAtTheFirstMissingSubstance) {
                                                 Icon::Exclamation, "VELOR"}));
         }
         EXPECT_EQ(smes.Nslozky(1).toInt16(), 4);
+        EXPECT_EQ(smes.Nslozky(2).toInt16(), 0);
     }
     EXPECT_EQ(messages.size(), 8U);
 }
