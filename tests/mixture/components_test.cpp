@@ -105,6 +105,10 @@ TEST_F(ComponentsTest, resetujSmesEmptiesEverySlot) {
     EXPECT_EQ(errorNumber([&] { smes.Nslozky(21); }), 9);
     for (const int slot : {0, 21}) smes.ZapisNslozky(slot, 1);
     EXPECT_EQ(messages, std::vector<Message>(2, {"Index složky mimo meze!", Icon::Critical, "VELOR"}));
+    smes.ChyboveHlasky(2);
+    smes.ZapisNslozky(21, 1);
+    smes.Bod(0, 1, 1);
+    EXPECT_EQ(messages.size(), 2U);
 }
 
 TEST_F(ComponentsTest, bodReadsAndWritesTheLoadedConstants) {
