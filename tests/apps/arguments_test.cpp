@@ -6,11 +6,9 @@ namespace velor::test {
 namespace {
 
 TEST(ArgumentsTest, helpIsCzech) {
-    const std::vector<Words> commands{{},       {"seznam"},  {"latka"},     {"vlastnost"}, {"ukazka"},
-                                      {"smes"}, {"prehled"}, {"rovnovaha"}, {"flash"},     {"graf"}};
-    for (Words words : commands) {
-        words.push_back("--help");
-        const Outcome outcome = run(words);
+    for (const char* command :
+         {"", "seznam", "latka", "vlastnost", "ukazka", "smes", "prehled", "rovnovaha", "flash", "graf"}) {
+        const Outcome outcome = run(words(command, {"--help"}));
         EXPECT_EQ(outcome.exitCode, 0);
         for (const char* phrase : {"Použití: velor", "Přepínače:", "--baze SOUBOR", "--csv", "--json"})
             expectMentions(outcome.out, phrase);
@@ -21,35 +19,26 @@ TEST(ArgumentsTest, helpIsCzech) {
 }
 
 TEST(ArgumentsTest, versionIsTheLibrarys) {
-    const Outcome outcome = run({"--verze"});
-    EXPECT_EQ(outcome.exitCode, 0);
-    EXPECT_EQ(outcome.out, "velor " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) + "." +
-                               std::to_string(kVersionRevision) + "\n");
+    EXPECT_EQ(run({"--verze"}).out, "velor " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor) +
+                                        "." + std::to_string(kVersionRevision) + "\n");
 }
 
 TEST(ArgumentsTest, wrongUseIsSaidInCzech) {
-    const struct {
-        Words words;
-        const char* phrase;
-    } cases[] = {
-        {{}, "Chybí příkaz."},
-        {{"nic"}, "Neznámý příkaz nebo přepínač „nic“."},
-        {{"latka"}, "Chybí povinný údaj LÁTKA."},
-        {{"latka", "1", "--nic"}, "Nečekaný údaj: --nic"},
-        {{"latka", "1", "--csv", "--json"}, "buď --csv, nebo --json"},
-        {{"--csv", "latka", "1", "--json"}, "buď --csv, nebo --json"},
-        {{"latka", "1", "--baze"}, "Přepínač --baze nemá hodnotu."},
-        {{"vlastnost"}, "Chybí povinný údaj VLASTNOST."},
-        {{"smes"}, "Chybí povinný údaj --latky."},
-        {{"smes", "--dialog", "--latky", "1"}, "S přepínačem --dialog zadejte nejvýše -P"},
-        {{"smes", "--dialog", "--slozeni", "1"}, "S přepínačem --dialog zadejte nejvýše -P"},
-        {{"smes", "--dialog", "-P", "0"}, "Tlak musí být kladný"},
-        {{"seznam", "--podle", "vzorce"}, "podle nazvu nebo cisel, zadáno: „vzorce“"},
-        {{"vlastnost", "TENS", "-T", "300"}, "Chybí povinný údaj --latky."},
-        {{"vlastnost", "TENS", "--latky", "1"}, "Chybí povinný údaj --teplota."},
-        {{"vlastnost", "TENS", "--latky", "1", "-T", "300", "-T", "310"}, "Přepínač --teplota je zadán vícekrát."},
+    const std::pair<const char*, const char*> cases[] = {
+        {"", "Chybí příkaz."},
+        {"nic", "Neznámý příkaz nebo přepínač „nic“."},
+        {"latka", "Chybí povinný údaj LÁTKA."},
+        {"latka 1 --nic", "Nečekaný údaj: --nic"},
+        {"--csv latka 1 --json", "buď --csv, nebo --json"},
+        {"latka 1 --baze", "Přepínač --baze nemá hodnotu."},
+        {"vlastnost", "Chybí povinný údaj VLASTNOST."},
+        {"smes --dialog --latky 1", "S přepínačem --dialog zadejte nejvýše -P"},
+        {"smes --dialog -P 0", "Tlak musí být kladný"},
+        {"seznam --podle vzorce", "podle nazvu nebo cisel, zadáno: „vzorce“"},
+        {"vlastnost TENS -T 300", "Chybí povinný údaj --latky."},
+        {"vlastnost TENS --latky 1 -T 300 -T 310", "Přepínač --teplota je zadán vícekrát."},
     };
-    for (const auto& [words, phrase] : cases) expectFailure(run(words), 2, phrase);
+    for (const auto& [line, phrase] : cases) expectFailure(run(words(line)), 2, phrase);
 }
 
 }  // namespace

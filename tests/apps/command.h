@@ -7,7 +7,9 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <iterator>
 #include <nlohmann/json.hpp>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -24,6 +26,14 @@ struct Outcome {
 };
 
 using Words = std::vector<std::string>;
+
+// The words of a line without quotes, and more behind them.
+inline Words words(const std::string& line, const Words& more = {}) {
+    std::istringstream text(line);
+    Words all{std::istream_iterator<std::string>(text), {}};
+    all.insert(all.end(), more.begin(), more.end());
+    return all;
+}
 
 inline const std::string kVelor = std::string(VELOR_PROGRAMS) + "/velor";
 
@@ -70,6 +80,9 @@ inline Outcome run(const Words& words, const std::string& program = kVelor, cons
     outcome.error = readFile(folder / "err");
     return outcome;
 }
+
+// In a shell, where the answers or the surroundings come from somebody else.
+inline Outcome runInShell(const std::string& script) { return run({"-c", script}, "/bin/sh"); }
 
 inline void expectMentions(const std::string& text, const std::string& phrase) {
     EXPECT_NE(text.find(phrase), std::string::npos) << "missing: " << phrase << "\nin: " << text;

@@ -10,8 +10,7 @@ struct OutputTest : ::testing::Test {
 };
 
 TEST_F(OutputTest, csvIsOneTableOfExactNumbers) {
-    const Words words{"vlastnost", "TENS", "--latky", "5;10", "-T", "300.1,400,600", "--csv"};
-    EXPECT_EQ(database.run(words).out,
+    EXPECT_EQ(database.run(words("vlastnost TENS --latky 5;10 -T 300.1,400,600 --csv")).out,
               "T [K],\"2,2-Dimethylpropan [Pa]\",\"2,2-Dimethylpropan – stav\",Toluen [Pa],Toluen – stav\n"
               "300.1,309.1,v rozsahu,,bez hodnoty\n"
               "400,409,v rozsahu,,bez hodnoty\n"
@@ -19,8 +18,7 @@ TEST_F(OutputTest, csvIsOneTableOfExactNumbers) {
 }
 
 TEST_F(OutputTest, textIsAlignedByCharacters) {
-    const Outcome outcome = database.run({"vlastnost", "sigma", "--latky", "4,10,2", "-T", "300,450"});
-    EXPECT_EQ(outcome.out,
+    EXPECT_EQ(database.run(words("vlastnost sigma --latky 4,10,2 -T 300,450")).out,
               "Látky\n"
               "  č.  látka            vzorec  Tmin [K]  Tmax [K]  typ  vztah\n"
               "   4  Kyselina octová  C2H4O2       200       400    1  y = A1 + A2.T   přímka\n"
@@ -44,13 +42,12 @@ TEST_F(OutputTest, wideTablesGoOnBelow) {
 }
 
 TEST_F(OutputTest, anOutputThatCannotBeWrittenIsNoCrash) {
-    const Words words{"vlastnost", "TENS", "--latky", "1", "-T", "1:9999:1", "--baze", database.path()};
     const TemporaryFolder folder;
     const auto exitCode = [&](auto setOutput) {
         FileActions streams;
         setOutput(streams);
         streams.open(STDERR_FILENO, folder / "err", O_WRONLY | O_CREAT | O_TRUNC);
-        return exitCodeOf(kVelor, words, streams);
+        return exitCodeOf(kVelor, words("vlastnost TENS --latky 1 -T 1:9999:1"), streams);
     };
     EXPECT_EQ(exitCode([](FileActions& streams) { streams.open(STDOUT_FILENO, "/dev/full", O_WRONLY); }), 1);
     expectMentions(readFile(folder / "err"), "nepodařilo zapsat");

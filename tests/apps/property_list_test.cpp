@@ -21,12 +21,11 @@ TEST(PropertyListTest, theDocumentationSaysTheSame) {
     std::istringstream page(readFile(VELOR_SOURCES "/docs/properties.md"));
     for (std::string line; std::getline(page, line);)
         if (line.starts_with("| `")) documented.insert(line);
-    const auto list = run({"vlastnost", "--seznam", "--json"}).json()["vlastnosti"];
+    // It needs no database.
+    const auto list = run(words("vlastnost --seznam --json --baze /neni")).json()["vlastnosti"];
     for (const auto& row : list) listed.insert(documentedRow(row));
     EXPECT_EQ(documented, listed);
 }
-
-TEST(PropertyListTest, needsNoDatabase) { EXPECT_EQ(run({"vlastnost", "--seznam", "--baze", "/neni"}).exitCode, 0); }
 
 }  // namespace
 }  // namespace velor::test

@@ -48,8 +48,9 @@ class SmallDatabase {
 
     const std::string& path() const { return path_; }
 
-    Outcome run(Words words) const {
+    Outcome run(Words words, const Words& more = {}) const {
         words.insert(words.end(), {"--baze", path_});
+        words.insert(words.end(), more.begin(), more.end());
         return test::run(words);
     }
 

@@ -1,29 +1,22 @@
-#include <gtest/gtest.h>
-
+// Loading records: which count, what they hold, and what is said of those that are missing or damaged.
 #include <limits>
 
-#include "support/sample_mixture.h"
+#include "support/sample_test.h"
 
 namespace velor::test {
 namespace {
 
 // Records 1, 2 and 4 are substances, 3 is blank, 5 begins with zero bytes, the rest is blank; the file ends at 8.
 std::vector<TLatka> substances() {
-    TLatka zero = sampleSubstance(5, "");
-    zero.Nazev.fill('\0');
-    return {sampleSubstance(1, "Voda"), sampleSubstance(2, "Éthanol čistý"), blankRecord(),
-            sampleSubstance(4, "Benzen"), zero};
+    std::vector<TLatka> records = sampleSubstances(5);
+    records[2] = blankRecord();
+    records[4].Nazev.fill('\0');
+    return records;
 }
 
-struct LoadTest : ::testing::Test {
-    SampleMixture mixture{substances()};
-    Smes& smes = mixture.smes;
-    std::vector<Message>& messages = mixture.boxes.messages;
+struct LoadTest : SampleTest {
+    LoadTest() : SampleTest(substances()) {}
 };
-
-Message notInDatabase(int number) {
-    return {"INIVLR: Látka č.  " + std::to_string(number) + " není v bázi!", Icon::Exclamation, "VELOR"};
-}
 
 TEST_F(LoadTest, countsTheLeadingSlots) {
     smes.ZapisNslozky(1, 2);
@@ -40,18 +33,20 @@ TEST_F(LoadTest, countsTheLeadingSlots) {
 }
 
 TEST_F(LoadTest, stopsAtTheFirstMissingSubstance) {
-    for (const int number : {3, 5, 6, 9, 32767}) {  // blank, zero bytes, blank, beyond the end
-        messages.clear();
+    smes.MaxErrHlas(0);
+    for (const int number : {3, 5, 9, 32767}) {  // blank, zero bytes, beyond the end
         smes.ZapisNslozky(1, 4);
         smes.ZapisNslozky(2, number);
         smes.ZapisNslozky(3, 1);
-        smes.MaxErrHlas(0);
-        EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0})) << number;
-        EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0})) << number;  // tries again
-        EXPECT_EQ(messages, (std::vector{notInDatabase(number), notInDatabase(number)}));
-        EXPECT_EQ(smes.Nazev(1).toText().substr(0, 6), "Benzen");
-        EXPECT_EQ(smes.PocHlasek(), 0);
+        for (int time = 0; time < 2; ++time) {  // tries again
+            EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{0})) << number;
+            EXPECT_EQ(messages.back(), (Message{"INIVLR: Látka č.  " + std::to_string(number) + " není v bázi!",
+                                                Icon::Exclamation, "VELOR"}));
+        }
+        EXPECT_EQ(smes.Nslozky(1).toInt16(), 4);
+        EXPECT_EQ(smes.Nslozky(2).toInt16(), 0);
     }
+    EXPECT_EQ(messages.size(), 8U);
 }
 
 TEST_F(LoadTest, acceptsZeroBytesWhileMessagesAreOff) {
@@ -114,28 +109,16 @@ TEST_F(LoadTest, handsOutConstants) {
     SampleMixture other({sampleSubstance(1, "Voda"), record});
     other.smes.DefSlozky(List({2}));
     using Accessor = Variant (Smes::*)(int) const;
+    // clang-format off
     const std::pair<Accessor, double> variants[] = {
-        {&Smes::Mvi, 100},
-        {&Smes::Tkri, 200},
-        {&Smes::TkriC, 200 - 273.15},
-        {&Smes::Pkri, 300},
-        {&Smes::Vkri, 400},
-        {&Smes::Acenti, 500},
-        {&Smes::Gyr, 600},
-        {&Smes::Nlomui, 700},
-        {&Smes::TNlomui, 800},
-        {&Smes::TDipolm, 1000},
-        {&Smes::Permiti, 1100},
-        {&Smes::TPermiti, 1200},
-        {&Smes::Htani, 1300},
-        {&Smes::Ttani, 273.15F},
-        {&Smes::TtaniC, 0},
-        {&Smes::Tnbvi, 1500},
-        {&Smes::TnbviC, 1500 - 273.15},
-    };
+        {&Smes::Mvi, 100}, {&Smes::Tkri, 200}, {&Smes::TkriC, 200 - 273.15}, {&Smes::Pkri, 300}, {&Smes::Vkri, 400},
+        {&Smes::Acenti, 500}, {&Smes::Gyr, 600}, {&Smes::Nlomui, 700}, {&Smes::TNlomui, 800}, {&Smes::TDipolm, 1000},
+        {&Smes::Permiti, 1100}, {&Smes::TPermiti, 1200}, {&Smes::Htani, 1300}, {&Smes::Ttani, 273.15F},
+        {&Smes::TtaniC, 0}, {&Smes::Tnbvi, 1500}, {&Smes::TnbviC, 1500 - 273.15}};
+    // clang-format on
     for (const auto& [accessor, value] : variants) {
         EXPECT_EQ((other.smes.*accessor)(1).toDouble(), value);
-        for (const int slot : {0, 21, -1}) EXPECT_EQ(errorNumber([&] { (other.smes.*accessor)(slot); }), 9);
+        EXPECT_EQ(errorNumber([&, read = accessor] { (other.smes.*read)(21); }), 9);
     }
     EXPECT_EQ(other.smes.Dipolm(1), 900.0F);
     // An empty slot: a text for most, the field for the rest.

@@ -9,13 +9,13 @@
 #include "support/real_mixture.h"
 #include "velor/smes.h"
 
-namespace velor {
+namespace velor::test {
 namespace {
 
 constexpr int kETAG = 1, kCPG = 2, kALAG = 3, kROLW = 4, kETAL = 5, kALAL = 6, kCPL = 7, kDHV = 8, kTENS = 9,
               kSIGMA = 10;
 
-struct Pure : test::RealMixture {
+struct Pure : RealMixture {
     explicit Pure(std::int32_t registryNumber) : RealMixture({registryNumber}) {}
     double operator()(int property, double T) { return smes.FFce(T, 1, property).toDouble(); }
 };
@@ -66,25 +66,19 @@ TEST(ReferenceValues, areMetWithinTheirAccuracy) {
     }
 }
 
-TEST(ReferenceValues, vapourPressuresRecoverTheBoilingPoints) {
+// Where the vapour pressure is an atmosphere there, as another test makes sure.
+TEST(ReferenceValues, boilingPointsAreThePublishedOnes) {
+    // clang-format off
     const std::pair<std::int32_t, double> boilingPoints[] = {
         // CRC, "Physical constants of organic (inorganic) compounds"
-        {kWater, 373.12}, {67561, 337.8},     {kEthanol, 351.44}, {67641, 329.20},    {kBenzene, 353.23},
-        {108883, 383.78}, {109660, 309.21},   {110543, 341.88},   {142825, 371.57},   {111659, 398.77},
-        {110827, 353.88}, {74986, 231.1},     {106978, 272.7},    {kMethane, 111.67}, {kNitrogen, 77.36},
-        {7782447, 90.2},  {kAmmonia, 239.82}, {67663, 334.32},    {60297, 307.7},     {100414, 409.33},
-        {71238, 370.4},   {67630, 355.4},     {64197, 391.1},     {62533, 457.3},
-    };
-    for (const auto& [substance, Tb] : boilingPoints) {
-        Pure pure(substance);
-        double low = 0.8 * Tb, high = 1.2 * Tb;
-        for (int halving = 0; halving < 60; ++halving) {
-            const double T = (low + high) / 2;
-            (pure(kTENS, T) < 101325 ? low : high) = T;
-        }
-        EXPECT_NEAR(low, Tb, 0.6) << substance;
-    }
+        {kWater, 373.12}, {67561, 337.8}, {kEthanol, 351.44}, {67641, 329.20}, {kBenzene, 353.23}, {108883, 383.78},
+        {109660, 309.21}, {110543, 341.88}, {142825, 371.57}, {111659, 398.77}, {110827, 353.88}, {74986, 231.1},
+        {106978, 272.7}, {kMethane, 111.67}, {kNitrogen, 77.36}, {7782447, 90.2}, {kAmmonia, 239.82}, {67663, 334.32},
+        {60297, 307.7}, {100414, 409.33}, {71238, 370.4}, {67630, 355.4}, {64197, 391.1}, {62533, 457.3}};
+    // clang-format on
+    for (const auto& [substance, Tb] : boilingPoints)
+        EXPECT_NEAR(Pure(substance).smes.Bod(1, 15), Tb, 0.6) << substance;
 }
 
 }  // namespace
-}  // namespace velor
+}  // namespace velor::test

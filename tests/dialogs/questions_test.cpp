@@ -1,9 +1,8 @@
-// The forms as questions and answers: whole sessions, and the end of input at any point.
+// The forms as questions and answers: whole sessions.
 #include <gtest/gtest.h>
 
 #include <sstream>
 
-#include "platform/system.h"
 #include "runtime/text.h"
 #include "support/sample_mixture.h"
 
@@ -44,15 +43,6 @@ struct Questions : ::testing::Test {
         return shown.str();
     }
 };
-
-TEST_F(Questions, showTheList) {
-    EXPECT_EQ(session("2\néT*\n\n", [](Smes& smes) { smes.SeznamShow(); }),
-              "VELOR: 0 - podle abecedy\n1 - podle čísel (chvíli trvá ...) [0] "
-              "VELOR: Vložte název nebo část názvu hledané látky (bez *, %): "
-              "SEZNAM LÁTEK DATABÁZE  V E L O R   " +
-                  platform::shortDate() + "\nk zadání nalezeno 1 látek\n" + F_Sezn().Titulek + "\n" + kEther +
-                  "[Enter] ");
-}
 
 TEST_F(Questions, chooseComponents) {
     const auto shown = session("ok\néter\nbenzen\r\n0\n1\n z \n\n002\nok\n1\n ok\n", [&](Smes& smes) {
@@ -105,29 +95,6 @@ TEST_F(Questions, displayAndChangeAComponent) {
         line("Po změně:", "311.0 Pa") + "> ",
     };
     for (const std::string& part : parts) EXPECT_NE(shown.find(part), std::string::npos) << part << shown;
-}
-
-TEST_F(Questions, endWhereNobodyAnswers) {
-    const std::string start = kComposition + "Složení: Molově\n", next = "Pokračovat [Enter]: ";
-    const std::string again = "(X) VELOR: Je třeba zadat složení směsi!\n" + start;
-    const std::tuple<std::vector<double>, std::string, std::string> cases[] = {
-        {{1, 2}, "", start + "  Voda: "},
-        {{1, 2}, "1", start + "  Voda:   Éter: "},
-        {{1, 2}, "1\n1\n", start + "  Voda:   Éter: " + next},
-        {{1, 2}, "z\n1\n", start + "  Voda: "},
-        {{1}, "abc\n\n", start + "  Voda: " + next + again + "  Voda: "},
-        {{}, "\n", "(X) VELOR: Nemohu načíst z VELOR.DRC!\n" + start + next + again + next},
-    };
-    for (const auto& [numbers, input, shown] : cases) {
-        const auto enter = [&](Smes& smes) {
-            smes.DefSmes(static_cast<int>(numbers.size()), Fractions(numbers));
-            smes.ZadejSloz(n, X, W);
-            EXPECT_EQ(smes.Nsloz().toInt16(), 0);
-        };
-        EXPECT_EQ(session(input, enter), shown) << input;
-    }
-    EXPECT_EQ(session("1\n", [](Smes& smes) { smes.ZadejSmes(); }), choice + "\n> Složky směsi: 1\n> ");
-    EXPECT_TRUE(session("0", [](Smes& smes) { smes.SeznamShow(); }).ends_with(kEther + "[Enter] "));
 }
 
 }  // namespace

@@ -1,22 +1,13 @@
-#include <gtest/gtest.h>
-
+// Flashes against Raoult's law solved apart from the library, the rules of the iteration, and the report.
 #include <algorithm>
-#include <cmath>
-#include <functional>
 #include <numeric>
 
-#include "equilibrium/flash_rules.h"
 #include "equilibrium/typed_composition.h"
 #include "support/real_mixture.h"
-#include "support/sample_mixture.h"
+#include "support/sample_test.h"
 
-namespace velor {
+namespace velor::test {
 namespace {
-
-using test::errorNumber;
-using test::RealMixture;
-using test::SampleMixture;
-using test::sampleSubstance;
 
 // Pentane to decane, cyclohexane, methylcyclohexane, benzene, toluene, ethylbenzene, o- and p-xylene, acetone,
 // butanone, methanol, ethanol, both propanols, ethyl acetate.
@@ -41,14 +32,6 @@ Feed feedOf(std::size_t n, std::size_t first) {
     return feed;
 }
 
-double bisect(double low, double high, const std::function<double(double)>& rising) {
-    for (int halving = 0; halving < 50; ++halving) {
-        const double middle = (low + high) / 2;
-        (rising(middle) < 0 ? low : high) = middle;
-    }
-    return (low + high) / 2;
-}
-
 // Raoult's law, solved apart from the library on the same vapour pressures.
 struct Ideal {
     Smes& smes;
@@ -56,12 +39,6 @@ struct Ideal {
     double P;
 
     double K(std::size_t i, double T) const { return smes.FFce(T, static_cast<int>(i) + 1, 9).toDouble() / P; }
-    double lowestCritical() const {
-        double lowest = 1e9;
-        for (std::size_t i = 0; i < z.size(); ++i)
-            lowest = std::min(lowest, smes.Tkri(static_cast<int>(i) + 1).toDouble());
-        return lowest;
-    }
     double dewPoint(double highest) const {
         return bisect(150, highest, [&](double T) {
             double sum = 0;
@@ -78,141 +55,95 @@ struct Ideal {
     }
 };
 
+// The products make up the feed and are in equilibrium.
 void expectSplit(const FlashRecord& found, const std::vector<double>& z, double tolerance) {
     double sumX = 0, sumY = 0;
     for (std::size_t i = 0; i < z.size(); ++i) {
-        EXPECT_NEAR(found.vapourFraction * found.vapour[i] + (1 - found.vapourFraction) * found.liquid[i], z[i],
-                    tolerance);
+        const double V = found.vapourFraction, x = found.liquid[i], y = found.vapour[i];
+        EXPECT_NEAR(V * y + (1 - V) * x, z[i], tolerance);
         if (!found.equilibrium.empty()) {
-            EXPECT_NEAR(found.vapour[i], found.equilibrium[i] * found.liquid[i], tolerance);
+            EXPECT_NEAR(y, found.equilibrium[i] * x, tolerance);
         }
-        sumX += found.liquid[i];
-        sumY += found.vapour[i];
+        sumX += x;
+        sumY += y;
     }
     EXPECT_NEAR(sumX, found.outcome == FlashOutcome::AllVapour ? 0 : 1, 5e-3);
     EXPECT_NEAR(sumY, found.outcome == FlashOutcome::AllLiquid ? 0 : 1, 5e-3);
 }
 
-TEST(IsothermalFlash, agreesWithAnIndependentSolution) {
-    int flashes = 0, clamped = 0, iterated = 0;
-    for (const std::size_t n : {2U, 3U, 5U, 10U, 20U}) {
-        for (std::size_t first = 0; first < 6; ++first) {
-            const Feed feed = feedOf(n, first);
-            for (const double P : {10e3, 101325.0, 600e3}) {
-                for (const double share : {-0.2, 0.05, 0.3, 0.6, 0.9, 1.2}) {
-                    RealMixture mixture(feed.substances);
-                    const Ideal ideal{mixture.smes, feed.z, P};
-                    const double highest = 0.95 * ideal.lowestCritical();
-                    const double Td = ideal.dewPoint(highest);
-                    const bool dewIsClamped = Td > highest - 0.1;
-                    const double Tb = mixture.smes.TBV(P, Fractions(feed.z)).toDouble();
-                    const double T = Tb + share * (Td - Tb);
-                    Variant hostT = T, hostP = P;
-                    mixture.smes.FLASH(0, hostT, hostP, Fractions(feed.z));
-                    const FlashRecord& found = mixture.smes.lastFlash();
-                    ++flashes;
-                    if (dewIsClamped) {
-                        // The method's own dew point decides there, by design.
-                        ++clamped;
-                        EXPECT_EQ(found.outcome == FlashOutcome::AllVapour, T > found.dewPoint);
-                    } else {
-                        EXPECT_NEAR(found.dewPoint, Td, 0.03);
-                        const double V = share < 0 ? 0 : share > 1 ? 1 : ideal.vapourFraction(T);
-                        EXPECT_NEAR(found.vapourFraction, V, 1e-3)
-                            << n << " from " << first << " at " << P << ", " << T;
-                        iterated += found.outcome == FlashOutcome::Converged ? 1 : 0;
-                    }
-                    if (found.outcome != FlashOutcome::NotConverged) expectSplit(found, feed.z, 1e-3);
-                    EXPECT_EQ(hostT, Variant(T));
-                }
-            }
-        }
+void expectIsothermalFlash(const Feed& feed, double P, double share, int& iterated) {
+    RealMixture mixture(feed.substances);
+    const Ideal ideal{mixture.smes, feed.z, P};
+    double highest = 1e9;  // the method holds its dew point below the critical temperatures
+    for (int i = 1; i <= static_cast<int>(feed.z.size()); ++i)
+        highest = std::min(highest, 0.95 * mixture.smes.Tkri(i).toDouble());
+    const double Td = ideal.dewPoint(highest), Tb = mixture.smes.TBV(P, Fractions(feed.z)).toDouble();
+    EXPECT_NEAR(mixture.smes.TENS(Tb, Fractions(feed.z)).toDouble(), P, 1e-3 * P);
+    const double T = Tb + share * (Td - Tb);
+    Variant hostT = T, hostP = P;
+    mixture.smes.FLASH(0, hostT, hostP, Fractions(feed.z));
+    const FlashRecord& found = mixture.smes.lastFlash();
+    if (Td > highest - 0.1) {
+        EXPECT_EQ(found.outcome == FlashOutcome::AllVapour, T > found.dewPoint);
+    } else {
+        EXPECT_NEAR(found.dewPoint, Td, 0.03);
+        EXPECT_NEAR(found.vapourFraction, share < 0 ? 0 : share > 1 ? 1 : ideal.vapourFraction(T), 1e-3);
+        iterated += found.outcome == FlashOutcome::Converged ? 1 : 0;
     }
-    EXPECT_GE(flashes, 500);
-    EXPECT_GE(iterated, 250);
-    RecordProperty("clampedPercent", 100 * clamped / flashes);
+    if (found.outcome != FlashOutcome::NotConverged) expectSplit(found, feed.z, 1e-3);
+    EXPECT_EQ(hostT, Variant(T));
 }
 
-// The temperature and split that close both balances, by bisection within bisection.
-double adiabaticTemperature(Smes& smes, const Ideal& ideal, double T0, double Tb, double Td) {
-    const double H0 = smes.HL(T0, Fractions(ideal.z)).toDouble();
-    return bisect(Tb + 1e-6, Td - 1e-6, [&](double T) {
-        const double V = ideal.vapourFraction(T);
-        std::vector<double> x, y;
-        for (std::size_t i = 0; i < ideal.z.size(); ++i) {
-            x.push_back(ideal.z[i] / (1 - V * (1 - ideal.K(i, T))));
-            y.push_back(ideal.K(i, T) * x.back());
-        }
-        return (1 - V) * smes.HL(T, Fractions(x)).toDouble() + V * smes.RHG(T, ideal.P, Fractions(y)).toDouble() - H0;
-    });
+TEST(IsothermalFlash, agreesWithAnIndependentSolution) {
+    int iterated = 0;
+    for (const std::size_t n : {2U, 3U, 5U, 10U, 20U})
+        for (std::size_t first = 0; first < 6; ++first)
+            for (const double P : {10e3, 101325.0, 600e3})
+                for (const double share : {-0.2, 0.05, 0.3, 0.6, 0.9, 1.2}) {
+                    SCOPED_TRACE(std::to_string(n) + " from " + std::to_string(first) + " at " + std::to_string(P));
+                    expectIsothermalFlash(feedOf(n, first), P, share, iterated);
+                }
+    EXPECT_GE(iterated, 250);
 }
 
 TEST(AdiabaticFlash, closesTheEnthalpyBalance) {
-    int converged = 0, all = 0;
-    for (const std::size_t n : {2U, 3U, 5U, 10U}) {
-        for (std::size_t first = 0; first < 5; ++first) {
-            const Feed feed = feedOf(n, first);
+    int converged = 0;
+    for (const std::size_t n : {2U, 3U, 5U, 10U})
+        for (std::size_t first = 0; first < 5; ++first)
             for (const double superheat : {10.0, 25.0, 45.0}) {
-                constexpr double P = 101325;
+                const Feed feed = feedOf(n, first);
                 RealMixture mixture(feed.substances);
-                const double Tb = mixture.smes.TBV(P, Fractions(feed.z)).toDouble();
-                const double T0 = Tb + superheat;
+                Smes& smes = mixture.smes;
+                const Variant z = Fractions(feed.z), P = 101325;
+                const double T0 = smes.TBV(P, z).toDouble() + superheat, H0 = smes.HL(T0, z).toDouble();
                 Variant T = T0, hostP = P;
-                mixture.smes.FLASH(1, T, hostP, Fractions(feed.z));
-                const FlashRecord found = mixture.smes.lastFlash();
-                ++all;
+                smes.FLASH(1, T, hostP, z);
+                const FlashRecord found = smes.lastFlash();
                 if (found.outcome != FlashOutcome::Converged) {
                     EXPECT_EQ(T, Variant(T0));
                     continue;
                 }
                 ++converged;
                 EXPECT_EQ(T, Variant(found.temperature));
-                const Ideal ideal{mixture.smes, feed.z, P};
-                const double expected =
-                    adiabaticTemperature(mixture.smes, ideal, T0, found.bubblePoint, found.dewPoint);
-                EXPECT_NEAR(found.temperature, expected, 0.15) << n << " from " << first << ' ' << superheat;
-                EXPECT_NEAR(found.vapourFraction, ideal.vapourFraction(expected), 5e-3);
                 expectSplit(found, feed.z, 5e-3);
+                const Ideal ideal{smes, feed.z, 101325};
+                const double V = found.vapourFraction, liquid = smes.HL(T, Fractions(found.liquid)).toDouble();
+                EXPECT_NEAR(V, ideal.vapourFraction(found.temperature), 5e-3);
                 // The two tolerances, 0.1 K and 0.0005 of the heat of vaporisation, leave about 50 J/mol.
-                EXPECT_LT(std::abs(found.energyResidual), 60);
+                const double vapour = smes.RHG(T, P, Fractions(found.vapour)).toDouble();
+                EXPECT_NEAR((1 - V) * liquid + V * vapour, H0, 60) << n << " from " << first << ' ' << superheat;
             }
-        }
-    }
-    EXPECT_GT(converged, all / 2);
-    RecordProperty("convergedPercent", 100 * converged / all);
-}
-
-TEST(FlashRules, areNewtonStepsOfTheirBalances) {
-    const std::vector<double> z{0.5, 0.3, 0.2}, K{2.5, 0.9, 0.3}, slopes{0.05, 0.02, 0.01};
-    const auto residual = [&](double V, double shift) {
-        std::vector<double> k = K, x(3), y(3);
-        for (std::size_t i = 0; i < 3; ++i) k[i] += shift * slopes[i];
-        return splitFeed(V, z, k, slopes, x, y).residual;
-    };
-    std::vector<double> x(3), y(3);
-    const MaterialBalance balance = splitFeed(0.4, z, K, slopes, x, y);
-    EXPECT_NEAR(balance.byVapour, (residual(0.4 + 1e-5, 0) - residual(0.4 - 1e-5, 0)) / 2e-5, 1e-8);
-    EXPECT_NEAR(balance.byTemperature, (residual(0.4, 1e-5) - residual(0.4, -1e-5)) / 2e-5, 1e-8);
-    const EnergyBalance energy{120, 30000, 150};
-    const FlashStep step = adiabaticStep(balance, energy);
-    EXPECT_NEAR(balance.residual + balance.byVapour * step.V + balance.byTemperature * step.T, 0, 1e-12);
-    EXPECT_NEAR(energy.residual + energy.byVapour * step.V + energy.byTemperature * step.T, 0, 1e-9);
-    EXPECT_EQ(errorNumber([] { adiabaticStep({1, 0, 0}, {1, 0, 0}); }), 11);
-    EXPECT_EQ(errorNumber([] { isothermalStep({1, 0, 0}); }), 11);
+    EXPECT_GT(converged, 30);  // of 60
 }
 
 TEST(TypedComposition, endsAValueAtTheLaterSeparator) {
-    const std::pair<const char*, std::vector<double>> cases[] = {
-        {"0,5 0,5", {0.5, 0.5}},
-        {" 0.5;0.3;0.2 ", {0.5, 0.3, 0.2}},
-        {"0.5;0.3 0.2", {0.5, 0.2}},
-        {"0.5; 0.5", {0.5, 0.5}},
-        {"0.5  0.5", {0.5, 0, 0.5}},
-        {"a b", {0, 0}},
-        {"1;", {1}},
-        {"   ", {}},
-        {"1 2;3", {1, 3}},
-    };
+    const std::pair<const char*, std::vector<double>> cases[] = {{" 0,5;0.3 0.2 ", {0.5, 0.2}},
+                                                                 {"0.5; 0.5", {0.5, 0.5}},
+                                                                 {"0.5  0.5", {0.5, 0, 0.5}},
+                                                                 {"a b", {0, 0}},
+                                                                 {"1;", {1}},
+                                                                 {"   ", {}},
+                                                                 {"1 2;3", {1, 3}}};
     for (const auto& [text, fractions] : cases) EXPECT_EQ(parseComposition(text), fractions) << text;
     std::string twenty;
     for (int i = 0; i < 20; ++i) twenty += "1 ";
@@ -222,38 +153,29 @@ TEST(TypedComposition, endsAValueAtTheLaterSeparator) {
 
 // Two substances whose vapour pressures are 1000 (T - 250.02) and 250 (T - 250.02), so that everything can be followed
 // by hand: for the equimolar feed at 50 kPa the bubble point is 330.02 K and the dew point 375.02 K.
-struct FlashReportTest : ::testing::Test {
+struct FlashReportTest : SampleTest {
     static std::vector<TLatka> substances() {
         TLatka light = sampleSubstance(2, "Lehká látka"), heavy = sampleSubstance(3, "Těžká látka");
         light.Korelace[8] = {{-250020, 1000}, 1, 1, 200, 500};
         heavy.Korelace[8] = {{-62505, 250}, 1, 1, 200, 500};
         return {sampleSubstance(1, "Voda"), light, heavy};
     }
-    SampleMixture mixture{substances()};
-    Smes& smes = mixture.smes;
-    std::vector<Message>& messages = mixture.boxes.messages;
-    const std::string lightName = "Lehká látka" + std::string(19, ' '),
-                      heavyName = "Těžká látka" + std::string(19, ' ');
-
-    FlashReportTest() { smes.DefSlozky(List({2, 3})); }
+    FlashReportTest() : SampleTest(substances()) { smes.DefSlozky(List({2, 3})); }
 
     std::string flash(int mode, double T, const Variant& Z) {
         Variant hostT = T, P = 50000;
         return smes.FLASH(mode, hostT, P, Z);
     }
-    static std::string head() { return "Složka\t\t\t\t\t\t\tPára\tKapalina\tNástřik\r\n"; }
 };
 
 TEST_F(FlashReportTest, isWrittenToTheByte) {
+    const std::string blanks(19, ' '), head = "Složka\t\t\t\t\t\t\tPára\tKapalina\tNástřik\r\n";
+    const std::string range = "Bod varu(°C), rosný bod(°C)  : \t56.9\t101.9\r\n" + head + "Lehká látka" + blanks;
     const Message allVapour{"Zadáno T > rosný bod : Vše odpařeno", Icon::Exclamation, "VELOR"};
-    const Message allLiquid{"Zadáno T < bod varu: Vše kapalné", Icon::Exclamation, "VELOR"};
-    EXPECT_EQ(flash(0, 400, Fractions({0.5, 0.5})),
-              "FLASH výpočet izotermní\r\nZadáno T > rosný bod : Vše odpařeno\r\n"
-              "Poměr parní fáze k nástřiku: \t1.0000\r\n"
-              "Teplota poč., koncová (°C)   : \t126.9\t126.9\r\n"
-              "Tlak poč., koncový (kPa)     : \t0.000\t50.000\r\n"
-              "Bod varu(°C), rosný bod(°C)  : \t56.9\t101.9\r\n" +
-                  head() + lightName + "\t0.5000\t0.0000\t0.5000\r\n" + heavyName + "\t0.5000\t0.0000\t0.5000\r\n\r\n");
+    EXPECT_TRUE(flash(0, 400, Fractions({0.5, 0.5}))
+                    .starts_with("FLASH výpočet izotermní\r\n" + allVapour.text +
+                                 "\r\n"
+                                 "Poměr parní fáze k nástřiku: \t1.0000\r\n"));
     EXPECT_EQ(messages, std::vector{allVapour});
 
     // At 350.02 K, K = 2 and 0.5: V = 0.5, x = 1/3 and 2/3, y = 2/3 and 1/3; TENS = 62.5 kPa.
@@ -262,48 +184,38 @@ TEST_F(FlashReportTest, isWrittenToTheByte) {
               "FLASH výpočet izotermní\r\n"
               "Poměr parní fáze k nástřiku: \t0.5000\r\n"
               "Teplota poč., koncová (°C)   : \t76.9\t76.9\r\n"
-              "Tlak poč., koncový (kPa)     : \t62.500\t50.000\r\n"
-              "Bod varu(°C), rosný bod(°C)  : \t56.9\t101.9\r\n" +
-                  head() + lightName + "\t0.6667\t0.3333\t0.5000\r\n" + heavyName + "\t0.3333\t0.6667\t0.5000\r\n\r\n");
+              "Tlak poč., koncový (kPa)     : \t62.500\t50.000\r\n" +
+                  range + "\t0.6667\t0.3333\t0.5000\r\nTěžká látka" + blanks + "\t0.3333\t0.6667\t0.5000\r\n\r\n");
     EXPECT_TRUE(messages.empty());
-    EXPECT_NEAR(smes.Slozeni(1).toDouble(), 0.5, 1e-12);
 
     // The pressure kept from the flash before is printed by a trivial one; the feed need not sum to 1.
     EXPECT_EQ(flash(1, 300, Fractions({2, 2})),
               "FLASH výpočet adiabatický\r\nZadáno T < bod varu: Vše kapalné\r\n"
               "Poměr parní fáze k nástřiku: \t0.0000\r\n"
               "Teplota poč., koncová (°C)   : \t26.9\t26.9\r\n"
-              "Tlak poč., koncový (kPa)     : \t62.500\t50.000\r\n"
-              "Bod varu(°C), rosný bod(°C)  : \t56.9\t101.9\r\n" +
-                  head() + lightName + "\t0.0000\t0.5000\t0.5000\r\n" + heavyName + "\t0.0000\t0.5000\t0.5000\r\n\r\n");
-    EXPECT_EQ(messages, (std::vector{Message{"FLASH chybně zadané složení, součet 4.00000", Icon::Information, "FLASH"},
-                                     allLiquid}));
+              "Tlak poč., koncový (kPa)     : \t62.500\t50.000\r\n" +
+                  range + "\t0.0000\t0.5000\t0.5000\r\nTěžká látka" + blanks + "\t0.0000\t0.5000\t0.5000\r\n\r\n");
+    EXPECT_EQ(messages,
+              (std::vector<Message>{{"FLASH chybně zadané složení, součet 4.00000", Icon::Information, "FLASH"},
+                                    {"Zadáno T < bod varu: Vše kapalné", Icon::Exclamation, "VELOR"}}));
     EXPECT_EQ(smes.PocHlasek(), 1);  // the trivial boxes are not counted
-}
 
-TEST_F(FlashReportTest, keepsSilentAsFarAsItShould) {
     smes.ChyboveHlasky(2);
-    flash(7, 400, Fractions({1, 1}));  // any other mode is isothermal
-    EXPECT_EQ(messages.size(), 1U);    // the trivial box comes whatever the mode
-    EXPECT_EQ(smes.lastFlash().outcome, FlashOutcome::AllVapour);
+    messages.clear();
+    flash(7, 400, Fractions({1, 1}));             // any other mode is isothermal
+    EXPECT_EQ(messages, std::vector{allVapour});  // the trivial box comes whatever the mode
 }
 
 TEST_F(FlashReportTest, asksForEverything) {
-    auto& boxes = mixture.boxes;
+    RecordingUserInterface& boxes = mixture.boxes;
     boxes.nextTexts = {"0", "abc", "-5", "50000", "", "0,5", "0,5 0,5", "76,87"};
     Variant T = 1, P = 2;
     const std::string report = smes.FLASH(-1, T, P, Variant());
     const std::string feedPrompt = "Zadat složení nástřiku (mol.zl.) oddělené mezerou nebo středníkem: ";
     const InputRequest pressure{"Zadat tlak(Pa):", "FLASH", "101300"}, feed{feedPrompt, "FLASH", ""};
-    EXPECT_EQ(boxes.requests, (std::vector<InputRequest>{
-                                  {"FLASH  0-izotermní; 1-adiabatický:", "VELOR", "0"},
-                                  pressure,
-                                  pressure,
-                                  pressure,
-                                  feed,
-                                  feed,
-                                  feed,
-                                  {"Zadat teplotu(°C):\r\nBod varu  56.9\r\nRosný bod 101.9", "VELOR", "88.4"}}));
+    const InputRequest mode{"FLASH  0-izotermní; 1-adiabatický:", "VELOR", "0"};
+    const InputRequest temperature{"Zadat teplotu(°C):\r\nBod varu  56.9\r\nRosný bod 101.9", "VELOR", "88.4"};
+    EXPECT_EQ(boxes.requests, (std::vector{mode, pressure, pressure, pressure, feed, feed, feed, temperature}));
     EXPECT_EQ(messages,
               (std::vector<Message>{{"Nezadáno tolik mol.zlomků, kolik je složek! 2", Icon::Exclamation, "FLASH"}}));
     EXPECT_NE(report.find("\t0.6667\t0.3333\t0.5000"), std::string::npos);
@@ -313,53 +225,36 @@ TEST_F(FlashReportTest, asksForEverything) {
 
 TEST_F(FlashReportTest, takesAWrongCountWhereMessagesAreOff) {
     smes.MaxErrHlas(0);
-    mixture.boxes.nextTexts = {"0", "50000", "2", "76.85"};
-    Variant T, P;
-    smes.FLASH(-1, T, P, Variant());
-    EXPECT_EQ(smes.lastFlash().feed, (std::vector<double>{1, 0}));
     mixture.boxes.nextTexts = {"0", "50000", "1 1 2", "76.85"};  // the third counts in the sum and is left out
+    Variant T, P;
     smes.FLASH(-1, T, P, Variant());
     EXPECT_EQ(smes.lastFlash().feed, (std::vector<double>{0.25, 0.25}));
 }
 
 TEST_F(FlashReportTest, endsWithTheClassicErrors) {
-    struct Case {
-        Variant T, P, Z;
-        int error;
-    };
-    const Case cases[] = {
-        {350, 50000, Fractions({0, 0}), 11}, {350, 50000, Fractions({1}), 9},   {350, 50000, 5, 13},
-        {"x", 50000, Fractions({1, 1}), 13}, {350, "x", Fractions({1, 1}), 13}, {350, 50000, List({0.5, 0.5}), 9},
-    };
-    for (const Case& c : cases) {
-        SampleMixture fresh(substances());
-        fresh.smes.DefSlozky(List({2, 3}));
-        Variant hostT = c.T, hostP = c.P;
-        EXPECT_EQ(errorNumber([&] { fresh.smes.FLASH(0, hostT, hostP, c.Z); }), c.error);
-        EXPECT_EQ(fresh.smes.lastFlash().outcome, FlashOutcome::None);
-        hostT = 350, hostP = 50000;  // the object stays usable
-        fresh.smes.FLASH(0, hostT, hostP, Fractions({0.5, 0.5}));
-        EXPECT_EQ(fresh.smes.lastFlash().outcome, FlashOutcome::Converged);
+    const Variant good = Fractions({0.5, 0.5});
+    const std::tuple<Variant, Variant, Variant, int> cases[] = {{350, 50000, Fractions({0, 0}), 11},
+                                                                {350, 50000, Fractions({1}), 9},
+                                                                {"x", 50000, good, 13},
+                                                                {350, "x", good, 13}};
+    for (const auto& [T, P, Z, error] : cases) {
+        Variant hostT = T, hostP = P;
+        EXPECT_EQ(errorNumber([&, &feed = Z] { smes.FLASH(0, hostT, hostP, feed); }), error);
+        EXPECT_EQ(smes.lastFlash().outcome, FlashOutcome::None);
     }
+    flash(0, 350, good);
+    EXPECT_EQ(smes.lastFlash().outcome, FlashOutcome::Converged);  // the object stays usable
     // Without a pressure there is no boiling range (both points count as 0), and every temperature lies above it.
     Variant T = 350, P = 0;
-    smes.FLASH(0, T, P, Fractions({1, 1}));
+    smes.FLASH(0, T, P, good);
     EXPECT_EQ(smes.lastFlash().outcome, FlashOutcome::AllVapour);
-    // The end of input at every question.
-    for (std::size_t answers = 0; answers < 4; ++answers) {
-        SampleMixture fresh(substances());
-        fresh.smes.DefSlozky(List({2, 3}));
-        const std::deque<std::string> all{"0", "50000", "1 1", "80"};
-        fresh.boxes.nextTexts = {all.begin(), all.begin() + static_cast<long>(answers)};
-        EXPECT_EQ(errorNumber([&] { fresh.smes.FLASH(-1, T, P, Variant()); }), 62) << answers;
-    }
+    mixture.boxes.nextTexts = {"0", "50000"};
+    EXPECT_EQ(errorNumber([&] { smes.FLASH(-1, T, P, Variant()); }), 62);  // nobody answers
 }
 
 // A component alone has one boiling temperature: any other is trivial, and at it the slope of the balance vanishes.
 TEST_F(FlashReportTest, ofOneComponentIsTrivial) {
-    smes.DefSmes(1, Variant::array(1, {2}));
-    smes.ZapisNslozky(1, 2);
-    EXPECT_EQ(smes.Inivlr(), Variant(std::int16_t{1}));
+    smes.ZapisNslozky(2, 0);
     for (const auto& [T, outcome] : {std::pair{290.0, FlashOutcome::AllLiquid}, {310.0, FlashOutcome::AllVapour}}) {
         flash(0, T, Fractions({1}));
         EXPECT_EQ(smes.lastFlash().outcome, outcome);
@@ -367,4 +262,4 @@ TEST_F(FlashReportTest, ofOneComponentIsTrivial) {
 }
 
 }  // namespace
-}  // namespace velor
+}  // namespace velor::test

@@ -1,130 +1,32 @@
-// Bubble and dew points: against Raoult's law solved here by bisection, against boiling points, and the iteration's
-// own rules on vapour pressures simple enough to follow it by hand. No case here may run without its limit of steps
-// unless it is known to converge.
-#include <gtest/gtest.h>
+// Bubble and dew points: of every substance of the database, and the iteration's own rules on vapour pressures simple
+// enough to follow it by hand. No case here may run without its limit of steps unless it is known to converge.
+#include "database/record_file.h"
+#include "support/sample_test.h"
 
-#include <cmath>
-#include <functional>
-#include <set>
-#include <tuple>
-
-#include "support/real_mixture.h"
-#include "support/sample_mixture.h"
-
-namespace velor {
+namespace velor::test {
 namespace {
-
-using test::errorNumber;
-using test::RealMixture;
-using test::SampleMixture;
-using test::sampleSubstance;
 
 constexpr int kTENS = 9;
 constexpr double kAtmosphere = 101325, kTolerance = 0.02;
-constexpr std::int32_t kBenzene = 71432, kToluene = 108883, kHexane = 110543, kHeptane = 142825, kOctane = 111659,
-                       kMethane = 74828, kNitrogen = 7727379, kCarbonDioxide = 124389;
 
-// The root of a falling function.
-double bisect(double low, double high, const std::function<double(double)>& f) {
-    for (int halving = 0; halving < 60; ++halving) {
-        const double middle = (low + high) / 2;
-        (f(middle) > 0 ? low : high) = middle;
-    }
-    return low;
-}
-
-TEST(Saturation, idealMixturesBoilAndCondenseByRaoultsLaw) {
-    struct Case {
-        std::vector<std::int32_t> substances;
-        std::vector<double> x;
-        double P;
-    };
-    const Case cases[] = {{{kBenzene, kToluene}, {0.05, 0.95}, kAtmosphere},
-                          {{kBenzene, kToluene}, {0.5, 0.5}, kAtmosphere},
-                          {{kBenzene, kToluene}, {0.95, 0.05}, kAtmosphere},
-                          {{kToluene, kBenzene}, {0.5, 0.5}, kAtmosphere},
-                          {{kBenzene, kToluene}, {0.5, 0.5}, 5e5},
-                          {{kBenzene, kToluene}, {0.5, 0.5}, 2e4},
-                          {{kHexane, kHeptane, kOctane}, {0.2, 0.3, 0.5}, kAtmosphere},
-                          {{kHexane, kHeptane, kOctane}, {0.8, 0.1, 0.1}, kAtmosphere},
-                          {{kHexane, kHeptane, kOctane}, {0, 0.5, 0.5}, kAtmosphere}};
-    for (const Case& c : cases) {
-        RealMixture mixture(c.substances);
-        Smes& smes = mixture.smes;
-        const Variant X = Fractions(c.x);
-        const double bubble = smes.TBV(c.P, X).toDouble();
-        const double dew = smes.TRB(c.P, X).toDouble();
-        const auto sum = [&](double T, bool ofBubble) {
-            double total = 0;
-            for (std::size_t i = 0; i < c.x.size(); ++i) {
-                const double ratio = smes.FFce(T, static_cast<int>(i) + 1, kTENS).toDouble() / c.P;
-                total += ofBubble ? c.x[i] * ratio : c.x[i] / ratio;
-            }
-            return total;
-        };
-        EXPECT_NEAR(bubble, bisect(250, 480, [&](double T) { return 1 - sum(T, true); }), kTolerance);
-        EXPECT_NEAR(dew, bisect(250, 480, [&](double T) { return sum(T, false) - 1; }), kTolerance);
-        EXPECT_GT(dew, bubble);
-        EXPECT_NEAR(smes.TENS(bubble, X).toDouble(), c.P, 1e-3 * c.P);
-        for (const double T : {230.0, 371.5, 480.0})
-            EXPECT_NEAR(smes.TBV(smes.TENS(T, X), X).toDouble(), T, kTolerance);
-        EXPECT_EQ(smes.Slozeni(2).toDouble(), c.x[1]);
-        EXPECT_TRUE(mixture.boxes.messages.empty());
-    }
-}
-
-TEST(Saturation, orderSplitAndZeroComponentsDoNotMatter) {
-    RealMixture pair({kBenzene, kToluene});
-    RealMixture split({kToluene, kBenzene, kToluene, kOctane});
-    RealMixture pure({kBenzene});
-    for (const auto method : {&Smes::TBV, &Smes::TRB}) {
-        const double whole = (pair.smes.*method)(kAtmosphere, Fractions({0.4, 0.6})).toDouble();
-        EXPECT_NEAR((split.smes.*method)(kAtmosphere, Fractions({0.3, 0.4, 0.3, 0})).toDouble(), whole, 1e-9);
-        const double boiling = (pure.smes.*method)(kAtmosphere, Fractions({1.0})).toDouble();
-        EXPECT_NEAR((pair.smes.*method)(kAtmosphere, Fractions({1 - 1e-9, 1e-9})).toDouble(), boiling, 1e-5);
-    }
-    EXPECT_NEAR(pure.smes.TRB(kAtmosphere, Fractions({1.0})).toDouble(),
-                pure.smes.TBV(kAtmosphere, Fractions({1.0})).toDouble(), kTolerance);
-}
-
-TEST(Saturation, pureSubstancesBoilAtTheirBoilingPoints) {
-    // Carbon dioxide, sulphur hexafluoride, acetylene: what is given is the sublimation point, which the liquid's curve
-    // does not meet.
-    const std::set<std::int32_t> sublime{kCarbonDioxide, 2551624, 74862};
-    // Boiling point and vapour pressure come from different sources, which disagree by 0.6 to 1.5 K here.
-    const std::set<std::int32_t> disagree{629787, 7154805, 1759586, 622968, 86737, 57556,  565800, 79414, 118901,
-                                          142927, 623427,  141435,  102716, 99081, 619158, 79016,  75296, 126330};
-    const RecordFile database(VELOR_DATABASE);
-    int substances = 0;
-    for (int number = 1; number <= database.count(); ++number) {
-        const TLatka record = database.read(number);
-        if (record.Tnbv <= 0) continue;
-        ++substances;
+TEST(Saturation, everySubstanceBoilsWhereItsVapourPressureIsTheGivenOne) {
+    const int count = RecordFile(VELOR_DATABASE).count();
+    for (int number = 1; number <= count; ++number) {
         RecordingUserInterface boxes;
         Smes smes(boxes);  // a fresh budget of messages, so that the steps are limited
         smes.AdrVELOR(VELOR_DATABASE);
         smes.DefSlozky(List({number}));
-        const double Tb = smes.TBV(kAtmosphere, Fractions({1.0})).toDouble();
-        const double allowed = sublime.contains(record.CAS) ? 10.0 : disagree.contains(record.CAS) ? 1.5 : 0.6;
-        EXPECT_NEAR(Tb, record.Tnbv, allowed) << number << " [" << record.CAS << ']';
+        for (const auto method : {&Smes::TBV, &Smes::TRB}) {
+            const double T = (smes.*method)(kAtmosphere, Fractions({1.0})).toDouble();
+            EXPECT_LT(smes.FFce(T - kTolerance, 1, kTENS).toDouble(), kAtmosphere) << number;
+            EXPECT_GT(smes.FFce(T + kTolerance, 1, kTENS).toDouble(), kAtmosphere) << number;
+        }
         EXPECT_TRUE(boxes.messages.empty()) << number;
     }
-    EXPECT_GE(substances, 480);
-    EXPECT_GE(substances - static_cast<int>(sublime.size() + disagree.size()), 0.95 * substances);
 }
 
-TEST(Saturation, aGasAboveItsCriticalPointHasNoDewPointWithAHeavySolvent) {
-    for (const std::int32_t gas : {kMethane, kNitrogen, kCarbonDioxide})
-        for (const std::int32_t solvent : {kToluene, kHeptane}) {
-            RealMixture mixture({gas, solvent});
-            const Variant Y = Fractions({0.5, 0.5});
-            EXPECT_GT(mixture.smes.TRB(1e5, Y).toDouble(), 100) << gas << ' ' << solvent;
-            EXPECT_EQ(mixture.boxes.messages,
-                      (std::vector<Message>{{"Výp.ros.bodu diverguje!", Icon::Exclamation, "VELOR"}}));
-            EXPECT_EQ(mixture.smes.PocHlasek(), 1);
-            EXPECT_LT(mixture.smes.TBV(1e5, Y).toDouble(), 200);  // the bubble point is there
-        }
-}
+const Message kNoBubble{"Výp.bodu varu diverguje!", Icon::Exclamation, "VELOR"};
+const Message kNoDew{"Výp.ros.bodu diverguje!", Icon::Exclamation, "VELOR"};
 
 // ---- Vapour pressures that can be followed by hand -----------------------------------------------------------------
 
@@ -152,32 +54,25 @@ std::vector<TLatka> byHand() {
             linear(6, 500, 1, 20),      linear(7, 280), linear(8, 400), linear(9, 350, 1, 20)};
 }
 
-struct IterationTest : ::testing::Test {
-    SampleMixture mixture{byHand()};
-    Smes& smes = mixture.smes;
-    std::vector<Message>& messages = mixture.boxes.messages;
+struct IterationTest : SampleTest {
     const Variant pure = Fractions({1.0});
-};
 
-const Message kNoBubble{"Výp.bodu varu diverguje!", Icon::Exclamation, "VELOR"};
-const Message kNoDew{"Výp.ros.bodu diverguje!", Icon::Exclamation, "VELOR"};
+    IterationTest() : SampleTest(byHand()) {}
+};
 
 // 120 K away at 1.54 K a step, both need 78 steps: given up after the 51st only where the message is due.
 TEST_F(IterationTest, theLimitOfStepsIsTiedToTheMessage) {
     const double step = 1 / (std::exp(kSlope) - 1);
-    const std::tuple<int, int, bool> cases[] = {{-1, 20, true}, {0, 20, true}, {1, 20, true},
-                                                {2, 20, false}, {0, 0, false}, {-1, 0, false}};
+    const std::tuple<int, int, bool> cases[] = {{-1, 20, true}, {1, 20, true}, {2, 20, false}, {0, 0, false}};
     for (const auto& [mode, limit, limited] : cases) {
         messages.clear();
         smes.DefSlozky(List({3}));
         smes.ChyboveHlasky(mode);
         smes.MaxErrHlas(limit);
-        const int before = smes.PocHlasek();
         EXPECT_NEAR(smes.TBV(kP, pure).toDouble(), limited ? 0 : 180, kTolerance);
         smes.ZapisNslozky(1, 2);
         EXPECT_NEAR(smes.TRB(kP, pure).toDouble(), limited ? 300 + 51 * step : 420, limited ? 1e-6 : kTolerance);
         EXPECT_EQ(messages, limited ? (std::vector{kNoBubble, kNoDew}) : std::vector<Message>{}) << mode;
-        EXPECT_EQ(smes.PocHlasek() - before, limited ? 2 : 0);
     }
 }
 
@@ -194,8 +89,7 @@ TEST_F(IterationTest, anEstimateBeyondHalfOrOneAndAHalfIsDiscarded) {
 // Held at 0.95 of the critical temperature the linear pressure never reaches kP; the dew point's last estimate tells
 // where it was held: T + Ps (P - Ps) / (P dPs/dT).
 TEST_F(IterationTest, theTemperatureStaysBelowEveryCriticalOne) {
-    const std::pair<std::vector<int>, double> cases[] = {{{4}, 475},    {{7}, 266},    {{4, 8}, 380},
-                                                         {{8, 4}, 380}, {{8, 7}, 266}, {{7, 8}, 266}};
+    const std::pair<std::vector<int>, double> cases[] = {{{4}, 475}, {{4, 8}, 380}, {{8, 7}, 266}};
     for (const auto& [substances, T] : cases) {
         SampleMixture held(byHand());
         held.smes.DefSlozky(List(substances));
@@ -209,23 +103,16 @@ TEST_F(IterationTest, theTemperatureStaysBelowEveryCriticalOne) {
 TEST_F(IterationTest, thePressureAtTIsEvaluatedTwiceSoItsMessagesComeTwice) {
     smes.MaxErrHlas(1000);
     smes.DefSlozky(List({5}));  // not given, but evaluated all the same
-    EXPECT_NEAR(smes.TBV(3.5e4, pure).toDouble(), 350, 1e-6);
-    EXPECT_EQ(messages.size(), 2U * 3U);  // two steps
-    messages.clear();
     EXPECT_EQ(smes.TBV(kP, pure), Variant(0.0));
     EXPECT_EQ(messages.size(), 51U * 3U + 1U);
-    EXPECT_EQ(messages.back(), kNoBubble);
-    EXPECT_EQ(smes.PocHlasek(), 160);
-    // The order: T, T + 1, T again for each component, all below the critical temperatures; then the slope is 0.
+    EXPECT_EQ(smes.PocHlasek(), 154);
+    // The order: T, T + 1, T again for each component, all below the critical temperatures.
     messages.clear();
     smes.DefSlozky(List({6, 9}));
     EXPECT_TRUE(smes.TBV(kP, Fractions({0.5, 0.5})).isEmpty());
-    smes.ZapisNslozky(2, 7);
-    EXPECT_NEAR(smes.TBV(1.3e4, Fractions({0.5, 0.5})).toDouble(), 260, kTolerance);
-    const char* const temperatures[] = {"300.0", "301.0", "300.0", "300.0", "301.0",
-                                        "300.0", "266.0", "267.0", "266.0"};
-    ASSERT_GE(messages.size(), std::size(temperatures));
-    for (std::size_t i = 0; i < std::size(temperatures); ++i) EXPECT_TRUE(messages[i].text.ends_with(temperatures[i]));
+    std::string temperatures;
+    for (const Message& message : messages) temperatures += message.text.substr(message.text.size() - 6);
+    EXPECT_EQ(temperatures, " 300.0 301.0 300.0 300.0 301.0 300.0");
     // A budget that ends inside a step ends the messages, not the iteration.
     smes.ResetujSmes();  // slot 2 would keep its number
     smes.DefSlozky(List({5}));
@@ -235,34 +122,12 @@ TEST_F(IterationTest, thePressureAtTIsEvaluatedTwiceSoItsMessagesComeTwice) {
     EXPECT_EQ(messages.size(), 2U);
 }
 
-TEST_F(IterationTest, errorsAreTrappedUnderThePressure) {
-    const Variant word = Variant::array(1, {"x"}), notANumber = Fractions({std::nan("")}), zero = Fractions({0.0});
-    const std::tuple<int, Variant, Variant, const char*> cases[] = {{4, 0, pure, "0"},
-                                                                    {4, "x", pure, "x"},
-                                                                    {4, 1234.5, Fractions({}), "1235"},
-                                                                    {4, 3e4, List({1}), "30000"},
-                                                                    {4, 3e4, 1, "30000"},
-                                                                    {4, 3e4, word, "30000"},
-                                                                    {4, 3e4, notANumber, "30000"},
-                                                                    {4, 3e4, zero, "30000"},
-                                                                    {6, 3e4, pure, "30000"}};
-    const std::pair<Variant (Smes::*)(const Variant&, const Variant&), std::string> methods[] = {
-        {&Smes::TBV, "VELOR - TBV; P(Pa)= "}, {&Smes::TRB, "VELOR - TRB; P(Pa)= "}};
-    for (const auto& [substance, P, X, pressure] : cases)
-        for (const auto& [method, title] : methods) {
-            smes.DefSlozky(List({substance}));  // switches the messages on
-            EXPECT_TRUE((smes.*method)(P, X).isEmpty());
-            smes.ChyboveHlasky(-1);
-            try {
-                (smes.*method)(P, X);
-                ADD_FAILURE() << "nothing raised under " << title << pressure;
-            } catch (const RunTimeError& error) {
-                EXPECT_EQ(error.number(), RunTimeError::kRaisedToHost);
-                EXPECT_EQ(error.source(), title + pressure);
-                EXPECT_EQ(error.description(), "Chyba při výpočtu vlastnosti!");
-            }
-        }
-    for (const Message& message : messages) EXPECT_TRUE(message.text.starts_with("FFce: Typ")) << message.text;
+TEST_F(IterationTest, errorsAreTrapped) {
+    const std::tuple<int, double, Variant> cases[] = {{4, 0, pure}, {4, 3e4, Fractions({0.0})}, {6, 3e4, pure}};
+    for (const auto& [substance, P, X] : cases) {
+        smes.DefSlozky(List({substance}));
+        EXPECT_TRUE(smes.TBV(P, X).isEmpty() && smes.TRB(P, X).isEmpty());
+    }
     messages.clear();
     smes.DefSlozky(List({4, 4}));
     EXPECT_TRUE(smes.TBV(3.5e4, Fractions({0.75})).isEmpty());
@@ -271,9 +136,8 @@ TEST_F(IterationTest, errorsAreTrappedUnderThePressure) {
     EXPECT_EQ(smes.TBV(-1e4, Fractions({1, 0})), Variant(0.0));
     EXPECT_EQ(messages, std::vector{kNoBubble});
     smes.ResetujSmes();
-    EXPECT_TRUE(smes.TBV(3.5e4, pure).isEmpty());  // no components, no slope
-    EXPECT_TRUE(smes.TRB(3.5e4, pure).isEmpty());
+    EXPECT_TRUE(smes.TBV(3.5e4, pure).isEmpty() && smes.TRB(3.5e4, pure).isEmpty());  // no components, no slope
 }
 
 }  // namespace
-}  // namespace velor
+}  // namespace velor::test

@@ -37,16 +37,12 @@ TEST(CorrelationItems, areReadAndWritten) {
 TEST(Creation, setsTheDefaultsAndOpensNothing) {
     RecordingUserInterface boxes;
     const Smes smes(boxes);
-    EXPECT_EQ(smes.DataFileName(), "VELOR.DRC");
-    EXPECT_EQ(smes.CFGName(), "VELOR.CFG");
+    EXPECT_EQ(smes.DataFileName() + smes.CFGName() + smes.SNazev(), "VELOR.DRCVELOR.CFG");
     // Linked statically here, so the library's folder is the program's.
     EXPECT_EQ(smes.CFGPath(), std::filesystem::read_symlink("/proc/self/exe").parent_path().string() + "/");
-    EXPECT_EQ(smes.ChyboveHlasky(), 0);
-    EXPECT_EQ(smes.PocHlasek(), 0);
     EXPECT_EQ(smes.MaxErrHlas(), 20);
-    EXPECT_EQ(smes.Redlich(), 0);
-    EXPECT_EQ(smes.MezeTeplot(), 0);
-    EXPECT_EQ(smes.SNazev(), "");
+    for (const int setting : {smes.ChyboveHlasky(), smes.PocHlasek(), smes.Redlich(), smes.MezeTeplot()})
+        EXPECT_EQ(setting, 0);
     EXPECT_TRUE(boxes.messages.empty());
 }
 
@@ -57,26 +53,20 @@ TEST(Settings, ignoreWhatTheyShould) {
     EXPECT_EQ(smes.DataFileName(), "VELOR.DRC");
     smes.CFGName("");
     EXPECT_EQ(smes.CFGName(), "");
-    smes.CFGPath("  /tmp/velor ");
-    EXPECT_EQ(smes.CFGPath(), "/tmp/velor/");
-    smes.CFGPath("");
-    EXPECT_EQ(smes.CFGPath(), "/tmp/velor/");
-    smes.CFGPath("/tmp/velor/");
-    EXPECT_EQ(smes.CFGPath(), "/tmp/velor/");
-    for (const int mode : {-1, 0, 1, 2}) {
-        smes.ChyboveHlasky(mode);
-        EXPECT_EQ(smes.ChyboveHlasky(), mode);
+    for (const char* folder : {"  /tmp/velor ", "", "/tmp/velor/"}) {
+        smes.CFGPath(folder);
+        EXPECT_EQ(smes.CFGPath(), "/tmp/velor/") << folder;
     }
-    for (const int mode : {-2, 3, 32767}) smes.ChyboveHlasky(mode);
-    EXPECT_EQ(smes.ChyboveHlasky(), 2);
+    for (const int mode : {-1, 0, 1, 2, -2, 3, 32767}) {
+        smes.ChyboveHlasky(mode);
+        EXPECT_EQ(smes.ChyboveHlasky(), mode < -1 || mode > 2 ? 2 : mode);
+    }
     smes.MaxErrHlas(0);
     smes.MaxErrHlas(-1);
     EXPECT_EQ(smes.MaxErrHlas(), 0);
-    for (const int tooLarge : {32768, -32769}) {
-        EXPECT_EQ(errorNumber([&] { smes.ChyboveHlasky(tooLarge); }), 6);
-        EXPECT_EQ(errorNumber([&] { smes.MaxErrHlas(tooLarge); }), 6);
-        EXPECT_EQ(errorNumber([&] { smes.Redlich(tooLarge); }), 6);
-    }
+    EXPECT_EQ(errorNumber([&] { smes.ChyboveHlasky(32768); }), 6);
+    EXPECT_EQ(errorNumber([&] { smes.MaxErrHlas(-32769); }), 6);
+    EXPECT_EQ(errorNumber([&] { smes.Redlich(32768); }), 6);
 }
 
 }  // namespace

@@ -38,6 +38,13 @@ inline TLatka sampleSubstance(int number, std::string_view name) {
     return record;
 }
 
+// So many of them, numbered from 1.
+inline std::vector<TLatka> sampleSubstances(int count, std::string_view name = "Látka") {
+    std::vector<TLatka> records;
+    for (int number = 1; number <= count; ++number) records.push_back(sampleSubstance(number, name));
+    return records;
+}
+
 inline TLatka blankRecord() {
     TLatka record;
     setText(record.Nazev, "");

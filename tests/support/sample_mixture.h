@@ -22,15 +22,27 @@ class SampleMixture {
     }
 };
 
-// The classic number of the error that the body raises, 0 when it raises none.
+// What an error says to the host; number 0 where none was raised.
+struct Raised {
+    std::int32_t number = 0;
+    std::string source, description;
+
+    bool operator==(const Raised&) const = default;
+};
+
 template <class Body>
-int errorNumber(const Body& body) {
+Raised raised(const Body& body) {
     try {
         body();
     } catch (const RunTimeError& error) {
-        return error.number();
+        return {error.number(), error.source(), error.description()};
     }
-    return 0;
+    return {};
+}
+
+template <class Body>
+int errorNumber(const Body& body) {
+    return raised(body).number;
 }
 
 }  // namespace velor::test
