@@ -29,7 +29,7 @@ struct Candidates {
     bool mayGoOn = false;  // more may follow in the same word
 };
 
-bool takesValue(const CLI::Option& option) { return option.get_type_size_max() > 0; }
+bool takesValue(const CLI::Option& option) { return option.get_items_expected_max() > 0; }
 
 bool isRepeated(const CLI::Option& option) { return option.get_items_expected_max() > 1; }
 

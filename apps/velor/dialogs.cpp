@@ -20,14 +20,11 @@ std::FILE* drawnTo(const Request& request) {
 
 }  // namespace
 
-bool isOnScreen(const Request& request) {
+Dialogs dialogsFor(const Request& request) {
     std::FILE* const output = drawnTo(request);
-    return output && TerminalUserInterface::isPossible(stdin, output);
-}
-
-std::unique_ptr<UserInterface> dialogsFor(const Request& request) {
-    if (isOnScreen(request)) return std::make_unique<TerminalUserInterface>(stdin, drawnTo(request));
-    return std::make_unique<StreamUserInterface>(std::cin, std::cerr);
+    if (output && TerminalUserInterface::isPossible(stdin, output))
+        return {std::make_unique<TerminalUserInterface>(stdin, output), true};
+    return {std::make_unique<StreamUserInterface>(std::cin, std::cerr), false};
 }
 
 }  // namespace velor::app

@@ -8,10 +8,13 @@
 
 namespace velor::app {
 
+struct Dialogs {
+    std::unique_ptr<UserInterface> userInterface;
+    bool areOnScreen = false;
+};
+
 // The dialog that defines a mixture and the whole list of substances take a terminal's whole screen. Where there is no
 // such terminal, and for the few questions of the other commands, there are lines of text.
-bool isOnScreen(const Request& request);
-
-std::unique_ptr<UserInterface> dialogsFor(const Request& request);
+Dialogs dialogsFor(const Request& request);
 
 }  // namespace velor::app

@@ -1,6 +1,7 @@
 #include "commands.h"
 #include "failure.h"
 #include "flash_view.h"
+#include "forwarding_user_interface.h"
 #include "mixture_value.h"
 #include "number_text.h"
 #include "run_time_error_text.h"
@@ -70,22 +71,23 @@ Report flashReport(FlashAnswer flash, Mixture mixture, MixtureObject& object) {
     return reportOf(flash, mixture.substances);
 }
 
-// The library asks for the composition although it may be known: then it is suggested.
-class KnownFeed : public RecordingUserInterface {
+// The library asks for the composition although it may be known: then it is suggested. Every question has a suggestion,
+// so that an empty answer is a cancelled one; the library would ask again for ever.
+class KnownFeed : public ForwardingUserInterface {
   public:
-    KnownFeed(UserInterface& user, const std::vector<double>& fractions) : user_(user) {
+    KnownFeed(UserInterface& user, const std::vector<double>& fractions) : ForwardingUserInterface(user) {
         for (const double fraction : fractions) feed_ += (feed_.empty() ? "" : " ") + exactText(fraction);
     }
 
-    Answer showMessage(const Message& message) override { return user_.showMessage(message); }
     std::string askText(const InputRequest& request) override {
         InputRequest suggesting = request;
         if (request.prompt.starts_with("Zadat složení nástřiku")) suggesting.defaultAnswer = feed_;
-        return user_.askText(suggesting);
+        std::string answer = ForwardingUserInterface::askText(suggesting);
+        if (answer.empty()) throw Failure(ExitCode::NothingComputed, "Zadání bylo zrušeno, flash nebyl spočítán.");
+        return answer;
     }
 
   private:
-    UserInterface& user_;
     std::string feed_;
 };
 

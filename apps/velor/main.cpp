@@ -41,7 +41,7 @@ Report reportOn(const Question& question, const Request& request, PatientUserInt
 // Whoever reads the whole list on a terminal leafs through it.
 Report reportOn(const SubstanceListRequest& question, const Request& request, PatientUserInterface& user) {
     const Database database = openDatabase(request.database, user);
-    if (!isOnScreen(request) || !canBrowse(database)) return answer(question, database, user);
+    if (!user.isOnScreen() || !canBrowse(database)) return answer(question, database, user);
     browse(question, database, user);
     return {};
 }
@@ -54,9 +54,9 @@ Report reportOn(const MixtureDialogRequest& question, const Request& request, Pa
     Report report = describeMixture(mixture, question.pressure);
     const bool isRead = request.form == OutputForm::Text;
     const std::string description = isRead ? asText(report) : std::string();
-    if (isRead && !isOnScreen(request)) write(description);
-    const bool isWanted = isFlashWanted(user, isRead && isOnScreen(request) ? description + "\n" : std::string());
-    if (isRead && isOnScreen(request)) write(description);
+    if (isRead && !user.isOnScreen()) write(description);
+    const bool isWanted = isFlashWanted(user, isRead && user.isOnScreen() ? description + "\n" : std::string());
+    if (isRead && user.isOnScreen()) write(description);
     if (isRead) report = {};
     if (!isWanted) return report;
     Report flash = askedFlash(mixture, user);
@@ -70,8 +70,8 @@ Report reportOn(const MixtureDialogRequest& question, const Request& request, Pa
 
 std::string answerText(const Request& request) {
     TimeLimit limit(request.timeLimit);
-    const std::unique_ptr<UserInterface> dialogs = dialogsFor(request);
-    PatientUserInterface userInterface(*dialogs, std::cin, limit);
+    const Dialogs dialogs = dialogsFor(request);
+    PatientUserInterface userInterface(*dialogs.userInterface, dialogs.areOnScreen, std::cin, limit);
     const Report report =
         std::visit([&](const auto& question) { return reportOn(question, request, userInterface); }, request.question);
     return print(report, request.form);

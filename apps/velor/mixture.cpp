@@ -88,6 +88,8 @@ std::string MessageLog::firstText() const {
 MixtureObject::MixtureObject(const Mixture& mixture, UserInterface* listener)
     : log(listener), smes(log), X(Fractions(mixture.moleFractions)) {
     loadInto(smes, mixture.database, mixture.substances);
+    int slot = 0;
+    for (const ComponentData& component : mixture.components) component.putInto(smes, ++slot);
     smes.MaxErrHlas(std::numeric_limits<std::int16_t>::max());  // far more than one point can spend
     smes.inivlast();
     if (mixture.clamp) smes.MezeZap();

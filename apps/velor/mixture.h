@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "component_data.h"
 #include "database.h"
 #include "requests.h"
 #include "velor/smes.h"
@@ -14,7 +15,8 @@ struct Mixture {
     const Database& database;
     SubstanceList substances;
     std::vector<double> moleFractions;
-    bool clamp = false;  // temperatures into the validity ranges
+    bool clamp = false;                          // temperatures into the validity ranges
+    std::vector<ComponentData> components = {};  // where they are not those of the database
 };
 
 // Failure(WrongUse): a wrong number of fractions, or a sum that is not 1 and not to be normalised.

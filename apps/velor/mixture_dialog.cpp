@@ -1,6 +1,7 @@
 #include "mixture_dialog.h"
 
 #include "failure.h"
+#include "forwarding_user_interface.h"
 #include "run_time_error_text.h"
 
 namespace velor::app {
@@ -39,12 +40,37 @@ void requireComponents(const Smes& smes, const std::string& otherwise) {
     if (smes.Nsloz().toInt16() <= 0) fail(otherwise);
 }
 
+// What was typed stays when the library asks again because of one wrong value.
+class RememberedValues : public ForwardingUserInterface {
+  public:
+    using ForwardingUserInterface::ForwardingUserInterface;
+    using ForwardingUserInterface::showForm;
+
+    void showForm(F_Sloz& form) override {
+        if (form.L_J == names_) {
+            form.T_S = values_;
+            form.O_Mol = isMolar_;
+        }
+        ForwardingUserInterface::showForm(form);
+        names_ = form.L_J;
+        values_ = form.T_S;
+        isMolar_ = form.O_Mol;
+    }
+
+  private:
+    std::array<std::string, F_Sloz::kBoxes> names_;
+    std::array<TextBox, F_Sloz::kBoxes> values_;
+    bool isMolar_ = true;
+};
+
+// With the data that the user may have changed.
 Mixture mixtureOf(const Smes& smes, const Database& database, const Variant& X) {
     Mixture mixture{database, {}, {}};
     for (int i = 1; i <= smes.Nsloz().toInt16(); ++i) {
         const Substance* const substance = findByNumber(database.substances, smes.Nslozky(i).toInt16());
         if (!substance) fail("Složka č. " + std::to_string(i) + " není v bázi.");
-        mixture.substances.push_back(*substance);
+        mixture.components.emplace_back(smes, i);
+        mixture.substances.push_back(mixture.components.back().described(*substance));
         mixture.moleFractions.push_back(X.at(i).toDouble());
     }
     return mixture;
@@ -53,7 +79,8 @@ Mixture mixtureOf(const Smes& smes, const Database& database, const Variant& X) 
 }  // namespace
 
 Mixture askMixture(const Database& database, PatientUserInterface& user) {
-    Smes smes(user);
+    RememberedValues dialogs(user);
+    Smes smes(dialogs);
     buildList(smes, database);
     askUntilAccepted(user, [&] { smes.ZadejSmes(); });
     requireComponents(smes, "Nebyly zadány složky směsi.");

@@ -109,6 +109,7 @@ Mixture withoutAbsent(const Mixture& mixture) {
         if (mixture.moleFractions[i] == 0) continue;
         present.substances.push_back(mixture.substances[i]);
         present.moleFractions.push_back(mixture.moleFractions[i]);
+        if (!mixture.components.empty()) present.components.push_back(mixture.components[i]);
     }
     return present;
 }

@@ -11,9 +11,9 @@ namespace velor::app {
 // Passes everything on to another user interface; the time that its answers take does not count.
 class PatientUserInterface : public UserInterface {
   public:
-    // The input is the stream that answers come from, if they come from one.
-    PatientUserInterface(UserInterface& dialogs, const std::istream& input, TimeLimit& limit)
-        : dialogs_(dialogs), input_(input), limit_(limit) {}
+    // Whether the dialogs take the whole screen; the input is the stream that their answers come from otherwise.
+    PatientUserInterface(UserInterface& dialogs, bool isOnScreen, const std::istream& input, TimeLimit& limit)
+        : dialogs_(dialogs), isOnScreen_(isOnScreen), input_(input), limit_(limit) {}
 
     Answer showMessage(const Message& message) override;
     std::string askText(const InputRequest& request) override;
@@ -24,6 +24,7 @@ class PatientUserInterface : public UserInterface {
     void showForm(F_Zmenaz& form) override { showPatiently(form); }
     void showForm(frmOprav& form) override { showPatiently(form); }
 
+    bool isOnScreen() const { return isOnScreen_; }
     // Whether an answer was due after the end of input: then No or Back is nobody's decision.
     bool isDeserted() const { return input_.fail(); }
 
@@ -35,6 +36,7 @@ class PatientUserInterface : public UserInterface {
     }
 
     UserInterface& dialogs_;
+    bool isOnScreen_;
     const std::istream& input_;
     TimeLimit& limit_;
 };

@@ -1,5 +1,7 @@
 #include "substance_browser.h"
 
+#include "forwarding_user_interface.h"
+
 namespace velor::app {
 
 namespace {
@@ -7,21 +9,13 @@ namespace {
 constexpr std::size_t kMostShownLines = 800;  // of the library's form
 
 // The order is known from the command line, so that the library's question about it is answered at once.
-class KnownOrder : public UserInterface {
+class KnownOrder : public ForwardingUserInterface {
   public:
-    KnownOrder(UserInterface& user, bool byNumber) : user_(user), byNumber_(byNumber) {}
+    KnownOrder(UserInterface& user, bool byNumber) : ForwardingUserInterface(user), byNumber_(byNumber) {}
 
-    Answer showMessage(const Message& message) override { return user_.showMessage(message); }
     std::string askText(const InputRequest&) override { return byNumber_ ? "1" : "0"; }
-    void showForm(F_Sezn& form) override { user_.showForm(form); }
-    void showForm(F_Seznam& form) override { user_.showForm(form); }
-    void showForm(F_Sloz& form) override { user_.showForm(form); }
-    void showForm(frmLatka& form) override { user_.showForm(form); }
-    void showForm(F_Zmenaz& form) override { user_.showForm(form); }
-    void showForm(frmOprav& form) override { user_.showForm(form); }
 
   private:
-    UserInterface& user_;
     bool byNumber_;
 };
 

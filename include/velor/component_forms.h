@@ -130,7 +130,7 @@ class frmOprav {
     std::string HodnotaPred, HodnotaPo;  // values at that temperature before and after the change
     std::string PredPopis = "Před změnou:", PoPopis = "Po změně:";
     std::string Navod =
-        "Změna platí jen pro tuto směs, soubor databáze se nemění. Prázdný typ znamená nedanou vlastnost.";
+        "Změna platí jen pro tuto směs, soubor databáze se nemění. Bez typu rovnice vlastnost není dána.";
     std::string C_VypocetCaption = "&Vypočítat";
     std::string C_OKCaption = "&Uložit";
     std::string C_ZpetCaption = "&Zpět beze změny";

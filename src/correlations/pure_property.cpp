@@ -54,6 +54,8 @@ bool isGiven(const Smes& smes, int slot, int property) { return smes.VLRConst(sl
 
 PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& property) {
     if (!isGiven(smes, slot, property.number)) return {Standing::NotGiven};
+    const auto type = static_cast<int>(smes.VLRConst(slot, property.number, kTyp));
+    if (!isEquationType(type)) return {Standing::Failed};  // the engine would say so in a box each time
     try {
         const double value = smes.FFce(T, slot, property.number).toDouble();
         if (value == kNoValue) return {Standing::BeyondReference};

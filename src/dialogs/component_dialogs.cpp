@@ -8,9 +8,9 @@
 #include "database/load.h"
 #include "dialogs/boxes.h"
 #include "dialogs/component_texts.h"
+#include "dialogs/typed_temperature.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "runtime/windows_1250.h"
 #include "smes/messages.h"
 #include "smes/state.h"
 #include "velor/smes.h"
@@ -27,9 +27,10 @@ bool isAtHand(State& state, int i) {
     return true;
 }
 
+// Without the padding; control characters of a damaged record are escaped.
 template <std::size_t Width>
 std::string trimmed(const std::array<char, Width>& field) {
-    return std::string(trimBlanks(decodeWindows1250({field.data(), field.size()})));
+    return bytesText({field.data(), field.size()});
 }
 
 std::string captionOf(const State& state, int i, const std::string& what) {
@@ -74,6 +75,7 @@ void fill(frmLatka& form, const State& state, int i) {
     form.Konstanty = constantTexts(record);
     form.Korelace = correlationTexts(record);
     form.L_Vlast.items = propertyLines();
+    if (!typedTemperature(form.T_Teplota.text)) form.T_Teplota = frmLatka().T_Teplota;
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "dialogs/boxes.h"
 #include "dialogs/captions.h"
+#include "dialogs/questions.h"
 #include "runtime/text.h"
 #include "velor/component_forms.h"
 #include "velor/user_interface.h"
@@ -45,7 +46,9 @@ int propertyIndex(const Form& form, const std::string& name) {
     return -1;
 }
 
-constexpr std::string_view kHowToChange = "  2 = text   změní pole č. 2, samotné 2 = je vyprázdní\n";
+constexpr std::string_view kHowToChange =
+    "  2 = text   změní pole č. 2\n"
+    "  2 =        pole č. 2 vyprázdní\n";
 
 // What stands behind "name =" in the text typed; nothing where the text is something else.
 std::optional<std::string> textBehind(std::string_view name, const std::string& typed) {
@@ -56,7 +59,9 @@ std::optional<std::string> textBehind(std::string_view name, const std::string& 
 
 template <class Form>
 void tellField(const Form& form, int field, std::ostream& out) {
-    out << line(std::to_string(field + 1) + "  " + boxAt(form.L_Pole, field), boxAt(form.T_Pole, field).text);
+    const std::string number = std::to_string(field + 1);
+    out << line(number + (number.size() < 2 ? "   " : "  ") + boxAt(form.L_Pole, field),
+                boxAt(form.T_Pole, field).text);
 }
 
 template <class Form>
@@ -71,8 +76,9 @@ void changeField(Form& form, const std::string& typed, std::ostream& out) {
         const auto text = textBehind(std::to_string(field + 1), typed);
         if (!text) continue;
         form.setText(field, *text);
-        tellField(form, field, out);
+        return tellField(form, field, out);
     }
+    if (!trimBlanks(typed).empty()) out << kNotUnderstood;
 }
 
 void tellCorrection(const frmOprav& form, std::ostream& out) {

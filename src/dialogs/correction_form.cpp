@@ -13,6 +13,7 @@ namespace velor {
 void frmOprav::load(const TLatka& record) {
     record_ = record;
     L_Vlast.items = propertyLines();
+    if (!typedTemperature(T_Teplota.text)) T_Teplota = frmOprav().T_Teplota;
     for (int index = 0; index < kProperties; ++index)
         boxAt(filled_, index) = boxAt(typed_, index) = blockTexts(boxAt(record_.Korelace, index));
     selectProperty(0);
@@ -70,6 +71,8 @@ TKorelace frmOprav::typedBlock(int index) const {
     const TKorelace& before = boxAt(record_.Korelace, index);
     if (boxAt(typed_, index) == boxAt(filled_, index)) return before;
     TKorelace block = readBlock(boxAt(typed_, index));
+    if (block.Priznak == 0 && before.Priznak == 0)
+        throw InvalidField(kTyp, "Typ rovnice: zadejte číslo 1 až 19, nebo vyprázdněte i ostatní pole.");
     if (block.Priznak != 0 && before.Priznak != 0) block.Priznak = before.Priznak;
     return block;
 }

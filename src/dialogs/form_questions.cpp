@@ -5,6 +5,7 @@
 #include <string>
 
 #include "dialogs/captions.h"
+#include "dialogs/questions.h"
 #include "runtime/text.h"
 #include "velor/forms.h"
 #include "velor/user_interface.h"
@@ -46,10 +47,11 @@ void tellOption(const F_Sloz& form, std::ostream& out) {
 // "L 2" and "D 2" concern a component; they are no value even where there is no such component.
 bool concernsComponent(const std::string& command) { return command.starts_with("L ") || command.starts_with("D "); }
 
-void openComponent(F_Sloz& form, const std::string& command) {
+void openComponent(F_Sloz& form, const std::string& command, std::ostream& out) {
     const std::string number(trimBlanks(command.substr(1)));
     for (int i = 0; i < form.components; ++i)
         if (number == std::to_string(i + 1)) return form.mouseOnName(i, command.front() == 'L' ? 1 : 2);
+    out << kNotUnderstood;
 }
 
 }  // namespace
@@ -123,7 +125,7 @@ void StreamUserInterface::showForm(F_Sloz& form) {
             tellOption(form, messages_);
             i = form.focus.index;
         } else if (concernsComponent(command)) {
-            openComponent(form, command);
+            openComponent(form, command, messages_);
         } else if (!complete) {
             if (!line.empty()) form.setText(i, line);
             form.keyPressed(i, kEnterKey);

@@ -76,7 +76,7 @@ void readCasField(const std::string& text, int field, TLatka& record) {
         return;
     }
     if (!hasCasForm(number) || !hasCasCheckDigit(number))
-        refuse(field, "zadejte platné číslo ve tvaru 64-17-5, nebo nic.");
+        refuse(field, "zadejte platné číslo ve tvaru 64-17-5, nebo pole nechte prázdné.");
     readCas(number, record.CAS);
 }
 
@@ -92,7 +92,9 @@ void readConstant(const std::string& text, int field, TLatka& record) {
     const std::optional<float> number = typedSingle(text);
     const Sign sign = signOf(constant.key);
     const bool fits = number && (sign == Sign::Any || *number > 0 || (sign == Sign::NotNegative && *number == 0));
-    if (!fits) refuse(field, std::string("zadejte ").append(wanted(sign)).append(isNeeded ? "." : ", nebo nic."));
+    if (!fits)
+        refuse(field,
+               std::string("zadejte ").append(wanted(sign)).append(isNeeded ? "." : ", nebo pole nechte prázdné."));
     member = *number;
 }
 
@@ -173,7 +175,8 @@ TKorelace readBlock(const std::array<std::string, frmOprav::kFields>& texts) {
     TKorelace block;
     const int type = typedType(texts[frmOprav::kTyp]);
     if (type == 0) return block;
-    if (!isEquationType(type)) throw InvalidField(frmOprav::kTyp, "Typ rovnice: zadejte číslo 1 až 19, nebo nic.");
+    if (!isEquationType(type))
+        throw InvalidField(frmOprav::kTyp, "Typ rovnice: zadejte číslo 1 až 19, nebo pole nechte prázdné.");
     block.Typ = static_cast<std::int16_t>(type);
     block.Priznak = 1;
     for (std::size_t j = 0; j < block.A.size(); ++j) {
@@ -181,7 +184,7 @@ TKorelace readBlock(const std::array<std::string, frmOprav::kFields>& texts) {
         if (trimBlanks(text).empty()) continue;
         const std::optional<float> A = typedSingle(text);
         const int field = frmOprav::kFirstCoefficient + static_cast<int>(j);
-        if (!A) throw InvalidField(field, "A" + std::to_string(j + 1) + ": zadejte číslo, nebo nic (nula).");
+        if (!A) throw InvalidField(field, "A" + std::to_string(j + 1) + ": zadejte číslo; prázdné pole je nula.");
         block.A[j] = *A;
     }
     block.Tmin = readKelvin(texts[frmOprav::kTmin], frmOprav::kTmin, "Tmin");
@@ -192,7 +195,8 @@ TKorelace readBlock(const std::array<std::string, frmOprav::kFields>& texts) {
 
 int typedType(std::string_view text) {
     if (trimBlanks(text).empty()) return 0;
-    return typedWholeNumber(text).value_or(std::int16_t{-1});
+    const std::int16_t type = typedWholeNumber(text).value_or(std::int16_t{0});
+    return type == 0 ? -1 : type;  // a typed zero is no way to leave a property out
 }
 
 }  // namespace velor

@@ -31,7 +31,7 @@ void readField(const std::string& text, int field, TLatka& record);
 std::array<std::string, frmOprav::kFields> blockTexts(const TKorelace& block);
 TKorelace readBlock(const std::array<std::string, frmOprav::kFields>& texts);
 
-// The equation type typed; 0 for none, -1 for a text that is no whole number.
+// The equation type typed; 0 for none, -1 for a text that is no whole number or zero.
 int typedType(std::string_view text);
 
 }  // namespace velor

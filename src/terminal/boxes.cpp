@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "runtime/folding.h"
+#include "runtime/checked.h"
 #include "runtime/text.h"
 #include "terminal/dialog.h"
 #include "terminal/wrapped_lines.h"
@@ -45,14 +45,20 @@ std::string iconText(Icon icon) {
 
 Answer showBox(Screen& screen, const Message& message) {
     Dialog dialog(screen, [&] { return iconText(message.icon) + message.title; });
+    if (message.icon == Icon::Critical) dialog.titleStyle = Style::Error;
     bool isOpen = true;
     Answer answer = message.buttons == Buttons::Ok ? Answer::Ok : Answer::No;
     const auto close = [&](Answer with) {
         answer = with;
         isOpen = false;
     };
-    Label& text = dialog.add<Label>([&] { return message.text; });
-    if (message.icon == Icon::Critical) dialog.titleStyle = Style::Error;
+    // A question that ends a long text stays in sight with the buttons.
+    const std::size_t end = message.text.find_last_of("\r\n");
+    const std::string body = end == std::string::npos ? std::string() : message.text.substr(0, end);
+    const std::string last = end == std::string::npos ? message.text : message.text.substr(end + 1);
+    Label& text = dialog.add<Label>([&] { return body; });
+    Label& question = dialog.add<Label>([&] { return last; });
+    question.isPinned = true;
     std::vector<Button*> buttons;
     const auto addButton = [&](const std::string& caption, Answer with) {
         buttons.push_back(&dialog.add<Button>([caption] { return caption; }, [&close, with] { close(with); }));
@@ -64,19 +70,19 @@ Answer showBox(Screen& screen, const Message& message) {
         addButton("&Ano", Answer::Yes);
         addButton("&Ne", Answer::No);
     }
-    dialog.pinnedRows = 2;
     dialog.boxSize = [&](Size size) { return boxSize(message.text, columnsOf(message.title) + kFrame, 2, size); };
     dialog.layout = [&](Size page) {
-        text.area = {0, 0, text.rowsIn(page.columns), page.columns};
-        placeInRows(buttons, 1, page.columns);
+        text.area = {0, 0, body.empty() ? 0 : text.rowsIn(page.columns), page.columns};
+        question.area = {0, 0, question.rowsIn(page.columns), page.columns};
+        dialog.pinnedRows = question.area.rows + 1 + placeInRows(buttons, question.area.rows + 1, page.columns);
     };
     dialog.escape = [&] { isOpen = false; };
-    // The letter alone answers, as no text is typed here.
     dialog.before = [&](const Event& event) {
         if (event.is(Key::Up) || event.is(Key::Down)) {
             dialog.scroll(event.key == Key::Up ? -1 : 1);
             return true;
         }
+        // The letter alone answers, as no text is typed here.
         if (event.kind != Event::Kind::Character || event.character == U' ') return false;
         for (Button* button : buttons) button->accelerate(event.character);
         return true;
@@ -114,6 +120,7 @@ std::string askBox(Screen& screen, const InputRequest& request) {
     dialog.escape = cancel;
     dialog.focus(field);
     dialog.run(isOpen);
+    if (dialog.isDeserted()) checked::raise(RunTimeError::kInputPastEnd);
     return answer;
 }
 

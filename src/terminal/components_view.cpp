@@ -2,7 +2,6 @@
 #include <algorithm>
 
 #include "dialogs/boxes.h"
-#include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "terminal/dialog.h"
 #include "terminal/substance_search.h"
@@ -25,7 +24,8 @@ std::string chosenNames(const F_Seznam& form) {
     constexpr std::size_t kNumberWidth = 3, kNameFrom = 5, kNameWidth = 20;
     std::string names;
     for (int k = 0; k < form.PocZadanych; ++k) {
-        const std::string number = Format(parseLeadingNumber(boxAt(form.T_Smes, k).text), "000");
+        std::string number = boxAt(form.T_Smes, k).text;
+        if (number.size() < kNumberWidth) number.insert(0, kNumberWidth - number.size(), '0');
         const auto line = std::find_if(form.L_Seznam.items.begin(), form.L_Seznam.items.end(),
                                        [&](const std::string& item) { return item.substr(0, kNumberWidth) == number; });
         if (!names.empty()) names += " + ";

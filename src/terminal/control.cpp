@@ -15,6 +15,7 @@ namespace velor::terminal {
 int Label::rowsIn(int width) const { return static_cast<int>(wrappedLines(text_(), width).size()); }
 
 void Label::draw(Canvas& canvas, bool) {
+    if (area.rows == 1) return canvas.write(area.row, area.column, area.columns, cutTo(text_(), area.columns), style_);
     int row = area.row;
     for (const std::string& line : wrappedLines(text_(), area.columns)) {
         if (row == area.row + area.rows) return;
@@ -49,12 +50,17 @@ void TextField::focused() {
 void TextField::draw(Canvas& canvas, bool hasFocus) {
     const std::string text = text_();
     cursor_ = std::min(cursor_, lengthOf(text));
+    first_ = hasFocus ? std::min(first_, cursor_) : 0;
+    const auto columnsBefore = [&](int character) {
+        return columnsOf(
+            std::string_view(text).substr(byteAt(text, first_), byteAt(text, character) - byteAt(text, first_)));
+    };
     // The cursor behind the last character needs a column, too.
-    first_ = hasFocus ? std::clamp(first_, std::max(0, cursor_ - area.columns + 1), cursor_) : 0;
+    while (hasFocus && first_ < cursor_ && columnsBefore(cursor_) >= area.columns) ++first_;
     canvas.fill(area.row, area.column, area.columns, Style::Underlined);
     const Style style = hasFocus && isSelected_ && !text.empty() ? Style::Reversed : Style::Underlined;
     canvas.write(area.row, area.column, area.columns, std::string_view(text).substr(byteAt(text, first_)), style);
-    if (hasFocus) canvas.showCursor(area.row, area.column + cursor_ - first_);
+    if (hasFocus) canvas.showCursor(area.row, area.column + columnsBefore(cursor_));
 }
 
 bool TextField::moveCursor(const Event& event, int length) {
@@ -112,7 +118,15 @@ bool TextField::key(const Event& event) {
 }
 
 void TextField::mouse(Mouse, int, int column) {
-    cursor_ = std::clamp(first_ + column, 0, lengthOf(text_()));
+    const std::string text = text_();
+    std::string_view rest = std::string_view(text).substr(byteAt(text, first_));
+    cursor_ = first_;
+    for (int passed = 0; !rest.empty(); ++cursor_) {
+        const std::string_view behind = rest;
+        takeCodePoint(rest);
+        passed += columnsOf(behind.substr(0, behind.size() - rest.size()));
+        if (passed > column) break;
+    }
     isSelected_ = false;
 }
 
@@ -173,7 +187,8 @@ void List::search(const std::string& text) {
 int List::bestPosition(const std::string& wanted) const {
     const auto begins = [&](int index) {
         const std::string& line = folded_[static_cast<std::size_t>(index)];
-        const std::size_t name = std::min(line.find_first_not_of("0123456789 "), line.size());
+        const std::size_t blank = std::min(line.find(' '), line.size());
+        const std::size_t name = std::min(line.find_first_not_of(' ', blank), line.size());
         return line.starts_with(wanted) || line.compare(name, wanted.size(), wanted) == 0;
     };
     const auto best = std::find_if(shown_.begin(), shown_.end(), begins);

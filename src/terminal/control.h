@@ -76,7 +76,9 @@ class TextField : public Control {
 class Button : public Control {
   public:
     Button(std::function<std::string()> caption, std::function<void()> pressed)
-        : caption_(std::move(caption)), pressed_(std::move(pressed)) {}
+        : caption_(std::move(caption)), pressed_(std::move(pressed)) {
+        hint = "Enter potvrdí · Tab dál · Esc zpět";
+    }
     std::function<bool()> isChosen;  // an option's mark; a plain button has none
 
     bool takesFocus() const override { return isShown; }

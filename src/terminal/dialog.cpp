@@ -21,10 +21,17 @@ Dialog::Places Dialog::places() const {
     const Size box = boxSize(screen);
     const Area outer{std::max(0, (screen.rows - box.rows) / 2), std::max(0, (screen.columns - box.columns) / 2),
                      std::min(box.rows, screen.rows), std::min(box.columns, screen.columns)};
-    const int pinned = std::min(pinnedRows, std::max(0, outer.rows - 3));
+    const int pinned = std::min(pinnedRows, std::max(0, outer.rows - 2));
     return {outer,
-            {outer.row + 1, outer.column + 2, std::max(0, outer.rows - 2 - pinned), outer.columns - 4},
-            {outer.row + outer.rows - 1 - pinned, outer.column + 2, pinned, outer.columns - 4}};
+            {outer.row + 1, outer.column + 2, std::max(0, outer.rows - 2 - pinned), std::max(0, outer.columns - 4)},
+            {outer.row + outer.rows - 1 - pinned, outer.column + 2, pinned, std::max(0, outer.columns - 4)}};
+}
+
+// That there is more above or below, at the right end of the page.
+void Dialog::drawMoreMarks(const Area& page) {
+    Canvas canvas(screen_, {page.row, page.column, page.rows, page.columns});
+    if (firstRow_ > 0) canvas.write(0, page.columns - 1, 1, "↑", Style::Bold);
+    if (firstRow_ + page.rows < pageLength()) canvas.write(page.rows - 1, page.columns - 1, 1, "↓", Style::Bold);
 }
 
 void Dialog::drawFrame(const Places& at) {
@@ -75,6 +82,7 @@ void Dialog::draw(Screen& screen) {
     Canvas page(screen, at.page, firstRow_), pinned(screen, at.pinned);
     for (const auto& control : controls_)
         if (control->isShown && control.get() != focused_) control->draw(control->isPinned ? pinned : page, false);
+    drawMoreMarks(at.page);
     // The last one: it places the cursor.
     if (focused_) focused_->draw(focused_->isPinned ? pinned : page, true);
 }
@@ -144,7 +152,10 @@ void Dialog::pressMouse(const Event& event) {
 }
 
 void Dialog::dispatch(const Event& event) {
-    if (event.kind == Event::Kind::Deserted) return escape();
+    if (event.kind == Event::Kind::Deserted) {
+        isDeserted_ = true;
+        return escape();
+    }
     if (before && before(event)) return;
     switch (event.kind) {
         case Event::Kind::Key:

@@ -43,6 +43,8 @@ class Dialog : public Screen::Layer {
 
     // Shows the dialog and passes on what the user does, until isOpen is false.
     void run(const bool& isOpen);
+    // Whether it was closed because nobody can answer any more.
+    bool isDeserted() const { return isDeserted_; }
     void draw(Screen& screen) override;
 
   private:
@@ -52,6 +54,7 @@ class Dialog : public Screen::Layer {
 
     Places places() const;
     void drawFrame(const Places& at);
+    void drawMoreMarks(const Area& page);
     void dispatch(const Event& event);
     void pressKey(const Event& event);
     void pressMouse(const Event& event);
@@ -65,6 +68,7 @@ class Dialog : public Screen::Layer {
     Control* focused_ = nullptr;
     int firstRow_ = 0;
     bool followsFocus_ = true;
+    bool isDeserted_ = false;
 };
 
 // Buttons one behind another on a row, from the column on; they take a new row where the width ends. Returns the rows

@@ -10,14 +10,16 @@ namespace velor::terminal {
 
 namespace {
 
-constexpr int kCaptionWidth = 27, kConstantWidth = 46;
+constexpr int kCaptionWidth = 27, kValueWidth = 18, kConstantWidth = kCaptionWidth + kValueWidth + 1;
 
 std::string padded(const std::string& text, int width) {
     return text + std::string(static_cast<std::size_t>(std::max(0, width - columnsOf(text))), ' ');
 }
 
-std::string constantLine(const frmLatka::Constant& constant) {
-    return padded(constant.caption, kCaptionWidth) + constant.value + " " + constant.unit;
+// In a narrow window the caption gives way to the value.
+std::string constantLine(const frmLatka::Constant& constant, int width) {
+    const int captionWidth = std::clamp(width - kValueWidth - 1, 1, kCaptionWidth - 1);
+    return padded(cutTo(constant.caption, captionWidth), captionWidth + 1) + constant.value + " " + constant.unit;
 }
 
 std::string coefficientsLine(const CorrelationText& correlation) {
@@ -35,7 +37,7 @@ std::string correlationText(const CorrelationText& correlation) {
 
 std::string valueText(const frmLatka& form) {
     const CorrelationText& correlation = form.selectedCorrelation();
-    const std::string text = correlation.code + ": " + form.Hodnota;
+    const std::string text = correlation.caption + "\n" + correlation.code + ": " + form.Hodnota;
     return correlation.note.empty() ? text : text + "\n" + correlation.note;
 }
 
@@ -57,7 +59,8 @@ class DisplayView {
           compute_(dialog_.add<Button>([this] { return form_.C_VypocetCaption; }, [this] { form_.clickC_Vypocet(); })),
           back_(dialog_.add<Button>([this] { return form_.C_ZpetCaption; }, [this] { form_.clickC_Zpet(); })) {
         for (const frmLatka::Constant& constant : form.Konstanty)
-            constants_.push_back(&dialog_.add<Label>([&constant] { return constantLine(constant); }));
+            constants_.push_back(
+                &dialog_.add<Label>([this, &constant] { return constantLine(constant, constantWidth_); }));
         compute_.isPinned = back_.isPinned = true;
         list_.hint = "↑↓ jiná vlastnost · Tab teplota · PgUp PgDn posun · Esc zpět";
         list_.before = [](const Event& event) { return event.kind == Event::Kind::Character; };  // nothing to search in
@@ -87,9 +90,10 @@ class DisplayView {
         const int namesRows = names_.rowsIn(width);
         names_.area = {0, 1, namesRows, width};
         int row = namesRows;
-        constantsTitle_.area = {row, 1, 1, kConstantWidth};
+        constantWidth_ = std::min(width, kConstantWidth);
+        constantsTitle_.area = {row, 1, 1, constantWidth_};
         for (std::size_t k = 0; k < constants_.size(); ++k)
-            constants_[k]->area = {row + 1 + static_cast<int>(k), 1, 1, std::min(width, kConstantWidth)};
+            constants_[k]->area = {row + 1 + static_cast<int>(k), 1, 1, constantWidth_};
         const int constantsEnd = row + 1 + static_cast<int>(constants_.size());
         if (!areBeside) row = constantsEnd;
         const int column = areBeside ? 1 + kConstantWidth : 1, listWidth = width + 1 - column;
@@ -119,6 +123,7 @@ class DisplayView {
     Button& compute_;
     Button& back_;
     std::vector<Label*> constants_;
+    int constantWidth_ = kConstantWidth;
 };
 
 }  // namespace

@@ -21,14 +21,16 @@ Remembered remembered;
 
 // Only calls that are allowed within a handler.
 void giveBack(int signal) {
-    std::size_t written = 0;
+    // Stopped and in the background, the shell has the terminal and has set it as it wants it.
+    const bool isOurs = tcgetpgrp(remembered.input) == getpgrp();
+    std::size_t written = isOurs ? 0 : remembered.undoLength;
     while (written < remembered.undoLength) {
         const ssize_t count =
             write(remembered.output, remembered.undo.data() + written, remembered.undoLength - written);
         if (count <= 0) break;
         written += static_cast<std::size_t>(count);
     }
-    tcsetattr(remembered.input, TCSANOW, &remembered.modes);
+    if (isOurs) tcsetattr(remembered.input, TCSANOW, &remembered.modes);
     raise(signal);  // the disposition is the default one again
 }
 

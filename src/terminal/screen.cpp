@@ -2,6 +2,7 @@
 
 #include <curses.h>
 #include <locale.h>
+#include <termios.h>
 #include <unistd.h>
 #include <wchar.h>
 
@@ -41,9 +42,18 @@ constexpr const char* kMouseOff = "\033[?1006l\033[?1002l\033[?1000l";
 constexpr int kEscapeDelay = 50;  // ms that a key's sequence may take
 constexpr short kErrorPair = 1;
 
-bool coloursAreWanted() { return has_colors() && std::getenv("NO_COLOR") == nullptr; }
+// A control character from a damaged record would move the cursor.
+wchar_t printable(char32_t c) {
+    const auto wide = static_cast<wchar_t>(c);
+    return wcwidth(wide) < 0 ? L'·' : wide;
+}
 
-attr_t attribute(Style style) {
+bool coloursAreWanted() {
+    const char* const refusal = std::getenv("NO_COLOR");
+    return has_colors() && (refusal == nullptr || *refusal == '\0');
+}
+
+attr_t attribute(Style style, bool hasColours) {
     switch (style) {
         case Style::Bold:
             return A_BOLD;
@@ -54,7 +64,7 @@ attr_t attribute(Style style) {
         case Style::Reversed:
             return A_REVERSE;
         case Style::Error:
-            return A_BOLD | (coloursAreWanted() ? static_cast<attr_t>(COLOR_PAIR(kErrorPair)) : 0);
+            return A_BOLD | (hasColours ? static_cast<attr_t>(COLOR_PAIR(kErrorPair)) : 0);
         case Style::Plain:
             break;
     }
@@ -116,15 +126,40 @@ Event mouseEvent() {
     return event;
 }
 
-// A letter right behind an Escape was typed with Alt.
+// The rest of a key's sequence that the terminal's description does not know, up to its final character.
+void skipSequence() {
+    wint_t character = 0;
+    while (get_wch(&character) == OK && (character < 0x40 || character > 0x7E)) {
+    }
+}
+
+// What is typed with Alt arrives as Escape and the key right behind it. A letter presses a button; other keys have no
+// meaning with Alt, and neither have sequences that nobody knows.
 Event escapeEvent() {
     timeout(0);
     wint_t next = 0;
-    const int kind = get_wch(&next);
+    int kind = get_wch(&next);
+    const bool isDoubled = kind == OK && next == 27;  // Alt and a key that has a sequence of its own
+    if (isDoubled) kind = get_wch(&next);
+    Event event = keyEvent(kind == ERR ? Key::Escape : Key::None);
+    if (kind == OK && (next == '[' || next == 'O')) {
+        skipSequence();
+    } else if (kind == OK && !isDoubled && next > ' ' && next != 127) {
+        event = {Event::Kind::Accelerator, static_cast<char32_t>(next)};
+    }
     timeout(-1);
-    if (kind == OK && next > ' ' && next != 127) return {Event::Kind::Accelerator, static_cast<char32_t>(next)};
-    if (kind != ERR) unget_wch(static_cast<wchar_t>(next));
-    return keyEvent(Key::Escape);
+    return event;
+}
+
+// Back to the screen that was there before; a terminal that keeps none goes on below what is drawn.
+std::string screenBefore() {
+    const std::string back = capability("rmcup");
+    return back.empty() ? "\r\n" + capability("ed") : back;
+}
+
+bool isGone(std::FILE* input) {
+    termios modes{};
+    return tcgetattr(fileno(input), &modes) != 0;
 }
 
 }  // namespace
@@ -132,7 +167,9 @@ Event escapeEvent() {
 struct Screen::Terminal {
     Utf8Characters characters;
     SCREEN* screen = nullptr;
+    std::FILE* input = nullptr;
     std::FILE* output = nullptr;
+    bool hasColours = false;
 
     void send(const char* bytes) const {
         std::fputs(bytes, output);
@@ -151,10 +188,11 @@ Screen::Screen(std::FILE* input, std::FILE* output) : terminal_(std::make_unique
     terminal_->screen = newterm(nullptr, output, input);
     if (!terminal_->screen) throw std::runtime_error("terminál nelze použít");
     set_term(terminal_->screen);
+    terminal_->input = input;
     terminal_->output = output;
     terminal_->send(kAltSendsEscape);
     RestoreOnSignal::undoWith(std::string(kAltAsBefore) + kMouseOff + capability("rmkx") + capability("sgr0") +
-                              capability("cnorm") + capability("rmcup"));
+                              capability("cnorm") + screenBefore());
     cbreak();
     noecho();
     nonl();
@@ -162,7 +200,8 @@ Screen::Screen(std::FILE* input, std::FILE* output) : terminal_(std::make_unique
     set_escdelay(kEscapeDelay);
     mouseinterval(0);
     mousemask(BUTTON1_PRESSED | BUTTON2_PRESSED | BUTTON3_PRESSED | BUTTON4_PRESSED | BUTTON5_PRESSED, nullptr);
-    if (coloursAreWanted()) {
+    terminal_->hasColours = coloursAreWanted();
+    if (terminal_->hasColours) {
         start_color();
         use_default_colors();
         init_pair(kErrorPair, COLOR_RED, -1);
@@ -182,7 +221,8 @@ Event Screen::read() {
     wint_t code = 0;
     switch (get_wch(&code)) {
         case ERR:
-            return {Event::Kind::Deserted};
+            // Bytes that are no character fail, too; a terminal that is gone fails for ever.
+            return isGone(terminal_->input) ? Event{Event::Kind::Deserted} : keyEvent(Key::None);
         case KEY_CODE_YES:
             if (code == KEY_RESIZE) return {Event::Kind::Resize};
             return code == KEY_MOUSE ? mouseEvent() : keyEvent(functionKey(code));
@@ -203,8 +243,8 @@ int Screen::write(int row, int column, int from, int to, std::string_view text, 
     std::wstring visible;  // single bytes the library may take for control characters
     int start = column;
     for (std::string_view rest = text; !rest.empty();) {
-        const auto c = static_cast<wchar_t>(takeCodePoint(rest));
-        const int width = std::max(0, wcwidth(c));
+        const wchar_t c = printable(takeCodePoint(rest));
+        const int width = wcwidth(c);
         if (column >= from && column + width <= to) {
             if (visible.empty()) start = column;
             visible += c;
@@ -212,7 +252,7 @@ int Screen::write(int row, int column, int from, int to, std::string_view text, 
         column += width;
     }
     if (row < 0 || row >= area.rows || visible.empty()) return column;
-    attrset(static_cast<int>(attribute(style)));
+    attrset(static_cast<int>(attribute(style, terminal_->hasColours)));
     mvaddwstr(row, start, visible.c_str());
     attrset(A_NORMAL);
     return column;
@@ -226,9 +266,22 @@ void Screen::showCursor(int row, int column) {
 void Screen::hideCursor() { curs_set(0); }
 void Screen::show() { refresh(); }
 
+std::string cutTo(const std::string& text, int width) {
+    if (columnsOf(text) <= width) return text;
+    std::string_view rest = text;
+    while (!rest.empty() && columnsOf(text.substr(0, text.size() - rest.size())) < width) takeCodePoint(rest);
+    std::string cut = text.substr(0, text.size() - rest.size());
+    while (!cut.empty() && columnsOf(cut) >= width) {
+        std::size_t last = cut.size() - 1;
+        while (last > 0 && (static_cast<unsigned char>(cut[last]) & 0xC0U) == 0x80U) --last;
+        cut.erase(last);
+    }
+    return width > 0 ? cut + "…" : std::string();
+}
+
 int columnsOf(std::string_view text) {
     int columns = 0;
-    while (!text.empty()) columns += std::max(0, wcwidth(static_cast<wchar_t>(takeCodePoint(text))));
+    while (!text.empty()) columns += wcwidth(printable(takeCodePoint(text)));
     return columns;
 }
 

@@ -57,4 +57,7 @@ class Screen {
 // Columns that the text takes on the screen.
 int columnsOf(std::string_view text);
 
+// The text in at most that many columns; "…" stands for what does not fit.
+std::string cutTo(const std::string& text, int width);
+
 }  // namespace velor::terminal

@@ -7,7 +7,10 @@ namespace velor::terminal {
 
 bool canPlaceTheCursor(int fileDescriptor) {
     int error = 0;
-    return setupterm(nullptr, fileDescriptor, &error) == OK && !capability("cup").empty();
+    if (setupterm(nullptr, fileDescriptor, &error) != OK) return false;
+    const bool can = !capability("cup").empty();
+    del_curterm(cur_term);
+    return can;
 }
 
 std::string capability(const char* name) {

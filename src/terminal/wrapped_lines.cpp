@@ -23,6 +23,7 @@ std::size_t fittingBytes(std::string_view text, int width) {
 }
 
 void wrap(std::string_view line, int width, std::vector<std::string>& lines) {
+    if (line.starts_with("  ")) return lines.push_back(cutTo(std::string(line), width));
     while (columnsOf(line) > width) {
         std::size_t end = fittingBytes(line, width);
         const std::size_t blank = line.rfind(' ', end);

@@ -8,7 +8,7 @@
 namespace velor::terminal {
 
 // Lines of at most width columns, broken between words where that is possible and wherever the text has a CR, LF or CR
-// LF. Blanks at the start of the text's own lines stay.
+// LF. A line that begins with two blanks is a row of a table: it is cut, not broken.
 std::vector<std::string> wrappedLines(std::string_view text, int width);
 
 }  // namespace velor::terminal

@@ -55,6 +55,7 @@ TEST(CompletionTest, candidatesOfALine) {
         {"velor latka --csv --c|", {}},
         {"velor smes --h|", {"--help", "--hmotove"}},
         {"velor flash -T|", {"-T"}},
+        {"velor smes --hmotove --latky vod|", {"Voda"}},
         {"velor seznam --podle |", {"cisel", "nazvu"}},
         {"velor vlastnost ten|", {"TENS"}},
         {"velor graf rhg|", {"rhg", "rhgW"}},

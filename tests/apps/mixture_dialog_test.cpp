@@ -44,13 +44,26 @@ TEST_F(MixtureDialogTest, flashesTheMixtureOrAnotherFeed) {
     EXPECT_EQ(document["slozky"][0]["z"], 1);
 }
 
+TEST_F(MixtureDialogTest, describesTheDataThatWereChanged) {
+    // Water of another name, formula and molar mass, with a vapour pressure of 100000 + T.
+    const std::string change = R"(d 1\n1 = Moje voda\n3 = X\n5 = 0.1\nd\nTENS\n1 = 1\n2 = 100000\n3 = 1\nok\n)";
+    const auto document = answers(R"(1\n41\nok\n)" + change + R"(0.5\n0.5\n\nn\n)", "--json").json();
+    EXPECT_EQ(document["slozeni"][0]["nazev"], "Moje voda");
+    EXPECT_EQ(document["slozeni"][0]["vzorec"], "X");
+    EXPECT_NEAR(document["pseudokriticke"]["MSm"]["hodnota"].get<double>(), 0.5 * (0.1 + 0.07214878), 1e-7);
+    const double T = document["rovnovaha"][0]["T"].get<double>();
+    const std::string pentane = "vlastnost TENS --latky pentan --json -T " + std::to_string(T);
+    const double Pv = run(words(pentane)).json()["hodnoty"][0]["41"].get<double>();
+    EXPECT_NEAR(0.5 * (100000 + T) + 0.5 * Pv, 101325, 30);  // the bubble point is found within 0.02 K
+}
+
 TEST_F(MixtureDialogTest, slipsOfTypingAreAskedAgain) {
     const std::pair<const char*, const char*> cases[] = {
         {R"(ok\n1\nok\n\n\nn\n)", "Nezadána žádná látka"},
         {R"(70000\nok\nz\n1\nok\n\n\nn\n)", "přetečení"},
         {R"(999\nok\n\n\nz\n1\nok\n\n\nn\n)", "Látka č.  999 není v bázi!"},
-        {R"(1\nok\n-1\n\n\n\nn\n)", "1. složení je záporné!"},
-        {R"(1\nok\nnic\n\n\n\nn\n)", "Je třeba zadat složení směsi!"},
+        {R"(1\nok\n-1\n\n1\n\nn\n)", "1. složení je záporné!"},
+        {R"(1\nok\nnic\n\n1\n\nn\n)", "Je třeba zadat složení směsi!"},
     };
     for (const auto& [input, phrase] : cases) {
         const Outcome outcome = answers(input);

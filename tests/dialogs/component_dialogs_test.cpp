@@ -149,14 +149,14 @@ TEST_F(ComponentDialogs, refuseFieldByField) {
         {F_Zmenaz::kNazev, "  ", "Pole „název“: název nesmí chybět."},
         {F_Zmenaz::kNazev, tooLong, "Pole „název“: text má 31 znaků, vejde se jich 30."},
         {F_Zmenaz::kVzorec, "H₂O", "Pole „vzorec“: znak „₂“ není v kódování Windows-1250."},
-        {F_Zmenaz::kCAS, "64-17-6", "Pole „CAS“: zadejte platné číslo ve tvaru 64-17-5, nebo nic."},
-        {F_Zmenaz::kCAS, "abc", "Pole „CAS“: zadejte platné číslo ve tvaru 64-17-5, nebo nic."},
+        {F_Zmenaz::kCAS, "64-17-6", "Pole „CAS“: zadejte platné číslo ve tvaru 64-17-5, nebo pole nechte prázdné."},
+        {F_Zmenaz::kCAS, "abc", "Pole „CAS“: zadejte platné číslo ve tvaru 64-17-5, nebo pole nechte prázdné."},
         {F_Zmenaz::kFirstConstant, "", "Pole „molární hmotnost“: zadejte kladné číslo."},
-        {F_Zmenaz::kFirstConstant + 1, "0", "Pole „kritická teplota“: zadejte kladné číslo, nebo nic."},
-        {F_Zmenaz::kFirstConstant + 1, "1e39", "Pole „kritická teplota“: zadejte kladné číslo, nebo nic."},
-        {F_Zmenaz::kFirstConstant + 1, "1e999", "Pole „kritická teplota“: zadejte kladné číslo, nebo nic."},
-        {F_Zmenaz::kFirstConstant + 4, "0.3x", "Pole „acentrický faktor“: zadejte číslo, nebo nic."},
-        {F_Zmenaz::kFirstConstant + 8, "-1", "Pole „dipólový moment“: zadejte nezáporné číslo, nebo nic."},
+        {F_Zmenaz::kFirstConstant + 1, "0", "Pole „kritická teplota“: zadejte kladné číslo, nebo pole nechte prázdné."},
+        {F_Zmenaz::kFirstConstant + 1, "1e39", "Pole „kritická teplota“: zadejte kladné číslo, nebo pole nechte prázdné."},
+        {F_Zmenaz::kFirstConstant + 1, "1e999", "Pole „kritická teplota“: zadejte kladné číslo, nebo pole nechte prázdné."},
+        {F_Zmenaz::kFirstConstant + 4, "0.3x", "Pole „acentrický faktor“: zadejte číslo, nebo pole nechte prázdné."},
+        {F_Zmenaz::kFirstConstant + 8, "-1", "Pole „dipólový moment“: zadejte nezáporné číslo, nebo pole nechte prázdné."},
     };
     // clang-format on
     for (const auto& [field, text, expected] : cases) {
@@ -171,9 +171,9 @@ TEST_F(ComponentDialogs, refuseFieldByField) {
         EXPECT_EQ(smes.Synonym(2).toText().substr(0, 6), "Sample");
     }
     const std::tuple<int, std::string, std::string> corrections[] = {
-        {frmOprav::kTyp, "20", "TENS, Typ rovnice: zadejte číslo 1 až 19, nebo nic."},
-        {frmOprav::kTyp, "1.5", "TENS, Typ rovnice: zadejte číslo 1 až 19, nebo nic."},
-        {frmOprav::kFirstCoefficient + 1, "1e39", "TENS, A2: zadejte číslo, nebo nic (nula)."},
+        {frmOprav::kTyp, "20", "TENS, Typ rovnice: zadejte číslo 1 až 19, nebo pole nechte prázdné."},
+        {frmOprav::kTyp, "1.5", "TENS, Typ rovnice: zadejte číslo 1 až 19, nebo pole nechte prázdné."},
+        {frmOprav::kFirstCoefficient + 1, "1e39", "TENS, A2: zadejte číslo; prázdné pole je nula."},
         {frmOprav::kTmin, "", "TENS, Tmin: zadejte celé číslo kelvinů, nejvýše 32767."},
         {frmOprav::kTmax, "32768", "TENS, Tmax: zadejte celé číslo kelvinů, nejvýše 32767."},
         {frmOprav::kTmax, "199", "TENS, Tmax: nesmí být nižší než Tmin."},

@@ -86,11 +86,12 @@ TEST_F(Questions, displayAndChangeAComponent) {
         return "  " + caption + std::string(37 - characterCount(caption), ' ') + value + "\n";
     };
     const std::string parts[] = {
-        "Voda [1.0]:   Voda [1.0]: Zobrazení složky č. 2: Éter\n",
+        "Voda [1.0]: Nerozumím, zadejte některou z možností výše.\n  Voda [1.0]: Zobrazení složky č. 2: Éter\n",
         line("kritická teplota", "500.00 K"),
         "TENS (300 K): 309.0 Pa\n> (!) VELOR: Teplota: zadejte kladné číslo v kelvinech.\nTENS (300 K): 309.0 Pa\n",
-        "> (!) VELOR: Pole „kritická teplota“: zadejte kladné číslo, nebo nic.\n>   6  kritická teplota [K]",
-        line("2  A1", "10"),
+        "> (!) VELOR: Pole „kritická teplota“: zadejte kladné číslo, nebo pole nechte prázdné.\n>   6   kritická "
+        "teplota [K]",
+        line("2   A1", "10"),
         line("Před změnou:", "310.0 Pa"),
         line("Po změně:", "311.0 Pa") + "> ",
     };

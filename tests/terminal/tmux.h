@@ -28,7 +28,7 @@ class Tmux {
 
     // Keys by tmux's names for them: "Enter", "F2", "M-s" (Alt), "C-c"; anything else is typed as it stands.
     void press(const std::string& keys) { run("send-keys " + keys); }
-    void type(const std::string& text) { run("send-keys -l '" + text + "'"); }
+    void type(const std::string& text) { run("send-keys -l -- '" + text + "'"); }
     void resize(int columns, int rows) {
         run("resize-window -x " + std::to_string(columns) + " -y " + std::to_string(rows));
     }
