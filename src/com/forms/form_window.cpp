@@ -27,9 +27,13 @@ unsigned resolutionOf(HWND window) {
     return static_cast<unsigned>(GetDeviceCaps(WindowContext(window).get(), LOGPIXELSY));
 }
 
-HFONT fontOf(HWND control) { return reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)); }
+LOGFONTW fontOf(HWND control) {
+    LOGFONTW description{};
+    GetObjectW(reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)), sizeof description, &description);
+    return description;
+}
 
-void setFont(HWND control, HFONT font) { SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }
+LONG heightOf(int points, unsigned dpi) { return -MulDiv(points, static_cast<int>(dpi), kPointsPerInch); }
 
 bool isClass(HWND control, const wchar_t* name) {
     wchar_t found[32] = L"";
@@ -96,11 +100,11 @@ void FormWindow::open(HWND window) {
     window_ = window;
     dpi_ = leastDpi_ = resolutionOf(window);
     layout_ = Layout(window, dpi_, anchors_);
-    SetFocus(GetNextDlgTabItem(window, nullptr, FALSE));
     perform([this] {
         isDisplaying_ = true;
         fill();
     });
+    if (!IsChild(window, GetFocus())) setFocus(GetDlgCtrlID(GetNextDlgTabItem(window, nullptr, FALSE)));
     RECT outer;
     GetWindowRect(window, &outer);
     least_ = {outer.right - outer.left, outer.bottom - outer.top};
@@ -143,18 +147,17 @@ bool FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
     }
 }
 
-// The numbers of different controls' notifications overlap.
+// The numbers of different kinds of notifications overlap. All others are left alone: a box tells of what was typed
+// before it can be read, too, and must not be shown its old text then.
 void FormWindow::notified(int id, int notification, HWND control) {
-    perform([&] {
-        if (isClass(control, WC_EDITW)) {
-            if (notification == EN_CHANGE) textChanged(id, textOf(control));
-        } else if (isClass(control, WC_LISTBOXW)) {
-            if (notification == LBN_SELCHANGE) lineSelected(id, selectionOf(control));
-            if (notification == LBN_DBLCLK) doubleClicked(id);
-        } else if (isClass(control, WC_BUTTONW)) {
-            if (notification == BN_CLICKED) clicked(id);
-        }
-    });
+    if (isClass(control, WC_EDITW) && notification == EN_CHANGE)
+        perform([&] { textChanged(id, textOf(control)); });
+    else if (isClass(control, WC_LISTBOXW) && notification == LBN_SELCHANGE)
+        perform([&] { lineSelected(id, selectionOf(control)); });
+    else if (isClass(control, WC_LISTBOXW) && notification == LBN_DBLCLK)
+        perform([&] { doubleClicked(id); });
+    else if (isClass(control, WC_BUTTONW) && notification == BN_CLICKED)
+        perform([&] { clicked(id); });
 }
 
 void FormWindow::watch(HWND control) {
@@ -217,15 +220,25 @@ void FormWindow::setFocus(int id) {
         SendMessageW(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(target), TRUE);
 }
 
-void FormWindow::useFixedPitch(int list, std::string_view face) {
-    LOGFONTW description{};
-    description.lfHeight = -MulDiv(kListPoints, static_cast<int>(dpi_), kPointsPerInch);
-    description.lfCharSet = EASTEUROPE_CHARSET;
-    description.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
-    lstrcpynW(description.lfFaceName, platform::toWide(face).c_str(), LF_FACESIZE);
+void FormWindow::useFont(HWND control, const LOGFONTW& description) {
     Font font(CreateFontIndirectW(&description));
-    setFont(control(list), font.get());
-    fonts_[control(list)] = std::move(font);
+    SendMessageW(control, WM_SETFONT, reinterpret_cast<WPARAM>(font.get()), TRUE);
+    fonts_[control] = std::move(font);
+}
+
+void FormWindow::useFixedPitch(int list, std::string_view face) {
+    LOGFONTW font{};
+    font.lfHeight = heightOf(kListPoints, dpi_);
+    font.lfCharSet = EASTEUROPE_CHARSET;
+    font.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
+    lstrcpynW(font.lfFaceName, platform::toWide(face).c_str(), LF_FACESIZE);
+    useFont(control(list), font);
+}
+
+void FormWindow::useSize(int id, int points) {
+    LOGFONTW font = fontOf(control(id));
+    font.lfHeight = heightOf(points, dpi_);
+    useFont(control(id), font);
 }
 
 void FormWindow::shorten(int units) {
@@ -238,12 +251,9 @@ void FormWindow::shorten(int units) {
 
 void FormWindow::changeResolution(unsigned dpi, const RECT& proposed) {
     for (const auto& [child, procedure] : ownProcedures_) {
-        LOGFONTW description{};
-        GetObjectW(fontOf(child), sizeof description, &description);
-        description.lfHeight = MulDiv(description.lfHeight, static_cast<int>(dpi), static_cast<int>(dpi_));
-        Font font(CreateFontIndirectW(&description));
-        setFont(child, font.get());
-        fonts_[child] = std::move(font);
+        LOGFONTW font = fontOf(child);
+        font.lfHeight = MulDiv(font.lfHeight, static_cast<int>(dpi), static_cast<int>(dpi_));
+        useFont(child, font);
     }
     dpi_ = dpi;
     SetWindowPos(window_, nullptr, proposed.left, proposed.top, proposed.right - proposed.left,

@@ -60,6 +60,8 @@ class FormWindow {
     void setFocus(int id);
     // In the fixed-pitch font of that name, or the system's own where there is none of that name.
     void useFixedPitch(int list, std::string_view face);
+    // In the form's font, of that size.
+    void useSize(int id, int points);
     // Takes so much off the height of the window, in dialog units.
     void shorten(int units);
 
@@ -76,6 +78,7 @@ class FormWindow {
     // Whether the message ends here, or goes on to the control's own procedure.
     bool handleInControl(HWND control, UINT message, WPARAM wParam);
     void watch(HWND control);
+    void useFont(HWND control, const LOGFONTW& description);
     void changeResolution(unsigned dpi, const RECT& proposed);
 
     const int layoutNumber_;
