@@ -1,6 +1,7 @@
 #include "com/guard.h"
 
 #include <windows.h>
+#include <xmmintrin.h>
 
 #include <cfenv>
 #include <new>
@@ -20,13 +21,20 @@ class DefaultFloatingPoint {
   public:
     DefaultFloatingPoint() {
         std::fegetenv(&host_);
-        std::fesetenv(FE_DFL_ENV);
+        std::fesetenv(FE_PC64_ENV);  // the x87 unit alone: the mathematical functions need its full precision
+        _mm_setcsr(kDefaultMxcsr);
     }
-    ~DefaultFloatingPoint() { std::fesetenv(&host_); }
+    ~DefaultFloatingPoint() {
+        std::fesetenv(&host_);
+        _mm_setcsr(hostMxcsr_);
+    }
     DefaultFloatingPoint(const DefaultFloatingPoint&) = delete;
     DefaultFloatingPoint& operator=(const DefaultFloatingPoint&) = delete;
 
   private:
+    static constexpr unsigned kDefaultMxcsr = 0x1F80;  // everything masked, to the nearest, subnormals kept
+
+    unsigned hostMxcsr_ = _mm_getcsr();  // the functions of the C library leave it out
     std::fenv_t host_{};
 };
 
