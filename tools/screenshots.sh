@@ -10,6 +10,7 @@ take_pictures() {
     coproc program { "$wine" "$binaries/tests/windows/form_pictures.exe"; }
     while read -r name <&"${program[0]}"; do
         name=${name%$'\r'}
+        [[ $name =~ ^[A-Za-z0-9_-]+$ ]] || { echo "$name" >&2; continue; } # a complaint
         import -window root -trim "$pictures/$name.png"
         echo "$pictures/$name.png"
         echo >&"${program[1]}"

@@ -1,7 +1,9 @@
 // Shows the forms one after another with real data, for pictures of them. Prints the name of each form that stands on
 // the screen and waits for a line before it goes on.
 #include <iostream>
+#include <numeric>
 #include <string>
+#include <vector>
 
 #include "com/forms/form_ids.h"
 #include "velor/smes.h"
@@ -36,8 +38,12 @@ void showSubstances() {
 
 void chooseComponents() {
     const Window form({" SEZNAM", SEZNAM_L_SEZNAM});
-    form.click(SEZNAM_OPTION2);
-    for (const int line : {455, 21, 100, 318, 77, 6, 8, 90, 111, 112, 180, 113}) form.doubleClickLine(SEZNAM_L_SEZNAM, line);
+    int box = SEZNAM_T_SMES;
+    for (const char* number : {"1", "57", "318"}) {
+        form.type(box, number);
+        form.press(box, VK_RETURN);
+        form.expectFocus(++box);
+    }
     picture("F_Seznam");
     form.click(SEZNAM_C_OK);
 }
@@ -63,12 +69,11 @@ void enterComposition() {
     const Window display({" Zobrazení", LATKA_L_VLAST});
     closeWithPicture(display, "frmLatka");
     changeComponent(form);
-    SetWindowPos(form.get(), nullptr, 10, 10, 900, 560, SWP_NOZORDER);
-    picture("F_Sloz-large");
     form.click(SLOZ_C_ZPET);
 }
 
-void runHost() {
+// Asks for substances and their composition.
+void askForMixture() {
     Smes smes;
     smes.AdrVELOR(smes.CFGPath() + smes.DataFileName());  // beside this program
     smes.SeznamShow(2);
@@ -77,15 +82,26 @@ void runHost() {
     smes.ZadejSloz(n, X, W, "", 5);
 }
 
+void askForManyFractions() {
+    Smes smes;
+    smes.AdrVELOR(smes.CFGPath() + smes.DataFileName());
+    std::vector<int> numbers(20);
+    std::iota(numbers.begin(), numbers.end(), 41);
+    smes.DefSlozky(List(numbers));
+    Variant n, X = Fractions(std::vector<double>(20, 0.0)), W = X;
+    smes.ZadejSloz(n, X, W, "", 1);
+}
+
 }  // namespace
 
 }  // namespace velor::test
 
 int main() {
     using namespace velor::test;
-    together(runHost, [] {
+    together(askForMixture, [] {
         showSubstances();
         chooseComponents();
         enterComposition();
     });
+    together(askForManyFractions, [] { closeWithPicture(Window({" Zadání", SLOZ_C_OK}), "F_Sloz-20"); });
 }

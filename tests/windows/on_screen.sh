@@ -14,7 +14,8 @@ if [ ! -f "$WINEPREFIX/ready" ]; then
     mkdir -p "$WINEPREFIX"
     "$wine" wineboot -i
     "$wine" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f >/dev/null
-    "$wine" reg add 'HKCU\Control Panel\Desktop' /v FontSmoothing /d 2 /f >/dev/null
+    # Debian's Wine does not look where its own fonts are; the marks of the title's buttons are among them.
+    cp /usr/share/wine/fonts/*.ttf "$WINEPREFIX/drive_c/windows/Fonts/"
     touch "$WINEPREFIX/ready"
 fi
 "$@"

@@ -33,8 +33,6 @@ LOGFONTW fontOf(HWND control) {
     return description;
 }
 
-LONG heightOf(int points, unsigned dpi) { return -MulDiv(points, static_cast<int>(dpi), kPointsPerInch); }
-
 bool isClass(HWND control, const wchar_t* name) {
     wchar_t found[32] = L"";
     GetClassNameW(control, found, static_cast<int>(std::size(found)));
@@ -228,17 +226,11 @@ void FormWindow::useFont(HWND control, const LOGFONTW& description) {
 
 void FormWindow::useFixedPitch(int list, std::string_view face) {
     LOGFONTW font{};
-    font.lfHeight = heightOf(kListPoints, dpi_);
+    font.lfHeight = -MulDiv(kListPoints, static_cast<int>(dpi_), kPointsPerInch);
     font.lfCharSet = EASTEUROPE_CHARSET;
     font.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
     lstrcpynW(font.lfFaceName, platform::toWide(face).c_str(), LF_FACESIZE);
     useFont(control(list), font);
-}
-
-void FormWindow::useSize(int id, int points) {
-    LOGFONTW font = fontOf(control(id));
-    font.lfHeight = heightOf(points, dpi_);
-    useFont(control(id), font);
 }
 
 void FormWindow::shorten(int units) {

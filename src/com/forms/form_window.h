@@ -60,8 +60,6 @@ class FormWindow {
     void setFocus(int id);
     // In the fixed-pitch font of that name, or the system's own where there is none of that name.
     void useFixedPitch(int list, std::string_view face);
-    // In the form's font, of that size.
-    void useSize(int id, int points);
     // Takes so much off the height of the window, in dialog units.
     void shorten(int units);
 

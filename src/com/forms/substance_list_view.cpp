@@ -13,8 +13,6 @@ using namespace velor::forms;
 
 constexpr Anchor kAnchors[] = {{SEZN_NADPIS_2, SEZN_NADPIS_2, kMoveX}, {SEZN_L_SEZN, SEZN_L_SEZN, kGrowX | kGrowY}};
 
-constexpr int kTitlePoints = 9;  // its words stand over the columns of the list then
-
 class SubstanceListView : public FormWindow {
   public:
     explicit SubstanceListView(F_Sezn& form) : FormWindow(FORM_SEZN, form.visible, kAnchors), form_(form) {}
@@ -24,7 +22,6 @@ class SubstanceListView : public FormWindow {
         showText(control(SEZN_NADPIS_1), form_.Nadpis_1);
         showText(control(SEZN_NADPIS_2), form_.Nadpis_2);
         showText(control(SEZN_TITULEK), form_.Titulek);
-        useSize(SEZN_TITULEK, kTitlePoints);
         useFixedPitch(SEZN_L_SEZN, F_Sezn::kFont);
         fillList(control(SEZN_L_SEZN), form_.L_Sezn.items);
     }
