@@ -54,6 +54,9 @@ void changeComponent(const Window& composition) {
     picture("F_Zmenaz");
     change.click(ZMENAZ_C_DATA);
     const Window correction({" Dočasná", OPRAV_NAVOD});
+    for (int k = 1; k < 4; ++k) correction.press(OPRAV_L_VLAST, VK_DOWN);
+    correction.replaceText(OPRAV_T_TEPLOTA, "700");
+    correction.click(OPRAV_C_VYPOCET);
     picture("frmOprav");
     SetWindowPos(correction.get(), nullptr, 0, 0, 900, 700, SWP_NOZORDER);
     closeWithPicture(correction, "frmOprav-large");
@@ -67,6 +70,9 @@ void enterComposition() {
     picture("F_Sloz");
     form.mouse(SLOZ_L_J, WM_LBUTTONDOWN);
     const Window display({" Zobrazení", LATKA_L_VLAST});
+    for (int k = 1; k < 4; ++k) display.press(LATKA_L_VLAST, VK_DOWN);  // water's density, which has a note
+    display.replaceText(LATKA_T_TEPLOTA, "700");
+    display.press(LATKA_T_TEPLOTA, VK_RETURN);
     closeWithPicture(display, "frmLatka");
     changeComponent(form);
     form.click(SLOZ_C_ZPET);
