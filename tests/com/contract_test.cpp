@@ -1,7 +1,8 @@
 // What the component promises to every host: identity, errors, floating-point state, lifetime, apartments.
-// clang-format off: needs the types of the first
-#include <psapi.h>
+// The second needs the types of the first.
+// clang-format off
 #include <windows.h>
+#include <psapi.h>
 // clang-format on
 
 #include <cfenv>
