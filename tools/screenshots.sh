@@ -22,7 +22,7 @@ if [ "${1:-}" = --on-screen ]; then
     take_pictures
     exit
 fi
-install_packages wine64 xvfb xauth imagemagick fonts-wine fonts-liberation
+install_packages "${needed_for_windows[@]}" imagemagick
 wine=$(command -v wine64 || echo /usr/lib/wine/wine64)
 mkdir -p "$pictures"
 "$root/tests/windows/on_screen.sh" "$wine" "$binaries/wine-screen" "${BASH_SOURCE[0]}" --on-screen "$wine"

@@ -40,6 +40,11 @@ class BoxWatcher {
         return text;
     }
 
+    // A form has none of a box's buttons. It is closed.
+    static bool isForm(HWND window) {
+        return !GetDlgItem(window, IDOK) && !GetDlgItem(window, IDCANCEL) && !GetDlgItem(window, IDYES);
+    }
+
     void watch(const std::stop_token& stop) {
         while (!stop.stop_requested()) {
             EnumWindows(
@@ -58,6 +63,10 @@ class BoxWatcher {
         GetWindowThreadProcessId(window, &process);
         GetClassNameW(window, name, 32);
         if (process != process_ || std::wstring(name) != L"#32770" || !IsWindowVisible(window)) return;
+        if (isForm(window)) {
+            PostMessageW(window, WM_CLOSE, 0, 0);
+            return;
+        }
         if (GetPropW(window, kAnswered) != nullptr) return;  // it is just closing
         Box box{platform::fromWide(textOf(window)), "", false};
         HWND edit = FindWindowExW(window, nullptr, L"Edit", nullptr);

@@ -10,7 +10,7 @@ namespace velor::test {
 namespace {
 
 using namespace std::chrono_literals;
-constexpr auto kPatience = 5s;
+constexpr auto kPatience = 20s;
 
 void waitFor(const std::function<bool()>& condition, const std::function<std::string()>& failure) {
     const auto end = std::chrono::steady_clock::now() + kPatience;

@@ -42,7 +42,7 @@ class Window {
     void click(int id) const { PostMessageW(control(id), BM_CLICK, 0, 0); }
     void mouse(int id, UINT message, LPARAM position = 0) const { PostMessageW(control(id), message, 0, position); }
     void doubleClickLine(int id, int line) const;
-    void press(int id, WPARAM key) const;                    // a key down and up
+    void press(int id, WPARAM key) const;                    // a key down and up; its character comes last
     void pressAlt(int id, wchar_t letter) const;             // an accelerator key
     void type(int id, const std::string& characters) const;  // each with its key released
     void replaceText(int id, const std::string& text) const;
