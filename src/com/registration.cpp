@@ -143,11 +143,12 @@ LSTATUS writeEntries(HKEY root) {
 
 LSTATUS removeEntries(HKEY root) {
     LSTATUS first = ERROR_SUCCESS;
-    std::vector<std::wstring> keys{kProgId, kVersionedProgId, classKey(), interfaceKey()};
+    // Windows keeps classes and interfaces for each architecture; programs' names and type libraries are shared.
+    std::vector<std::wstring> keys{classKey(), interfaceKey()};
     if (exists(root, libraryPlatforms() + L"\\" + kOtherPlatform)) {
-        keys = {classKey(), libraryPlatforms() + L"\\" + kPlatform};
+        keys.push_back(libraryPlatforms() + L"\\" + kPlatform);
     } else {
-        keys.push_back(libraryKey());
+        keys.insert(keys.end(), {kProgId, kVersionedProgId, libraryKey()});
     }
     for (const std::wstring& key : keys) {
         const LSTATUS status = remove(root, key);

@@ -80,12 +80,14 @@ class SmesObject final : public ISmes, public ISupportErrorInfo {
         if (index != 0) return DISP_E_BADINDEX;
         return guarded([&] { *information = typeInformation(); });
     }
-    STDMETHODIMP GetIDsOfNames(REFIID, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+    STDMETHODIMP GetIDsOfNames(REFIID reserved, LPOLESTR* names, UINT count, LCID, DISPID* ids) override {
+        if (reserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
         return guardedResult(
             [&] { return ComPointer<ITypeInfo>(typeInformation())->GetIDsOfNames(names, count, ids); });
     }
-    STDMETHODIMP Invoke(DISPID id, REFIID, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result,
+    STDMETHODIMP Invoke(DISPID id, REFIID reserved, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                         EXCEPINFO* exception, UINT* badArgument) override {
+        if (reserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
         return guardedResult([&] {
             SetErrorInfo(0, nullptr);  // that of an earlier call is not to be taken for this one's
             return ComPointer<ITypeInfo>(typeInformation())

@@ -47,6 +47,7 @@ Variant arrayOf(SAFEARRAY* array, VARTYPE type, int nesting) {
     const ArrayAccess access(array);
     const std::size_t size = SafeArrayGetElemsize(array);
     std::vector<Variant> elements;
+    elements.reserve(static_cast<std::size_t>(last - first) + 1);
     for (LONG i = 0; i <= last - first; ++i) {
         VARIANT element{};
         element.vt = static_cast<VARTYPE>(type | VT_BYREF);

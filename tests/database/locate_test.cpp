@@ -7,6 +7,7 @@
 #include <filesystem>
 
 #include "platform/file_system.h"
+#include "platform/system.h"
 #include "support/sample_mixture.h"
 
 namespace velor::test {
@@ -49,7 +50,7 @@ TEST_F(LocateTest, readsThePathInEveryForm) {
         {"\"neuzavřená\"\r\n\"" + path, path},
     };
     for (const auto& [content, expected] : forms) {
-        folder.write("VELOR.CFG", content);
+        folder.write("VELOR.CFG", platform::toSystemText(content));
         smes.AdrVELOR("");
         EXPECT_EQ(smes.AdrVELOR(), expected) << content;
         EXPECT_TRUE(boxes.messages.empty()) << content;
@@ -133,7 +134,8 @@ TEST_F(LocateTest, searchesTheDrivesInTwoPasses) {
     boxes.messages.clear();
     EXPECT_EQ(smes.AdrVELOR(), inside);
     EXPECT_EQ(boxes.messages, std::vector{notice});
-    EXPECT_EQ(readFile(configuration), "Soubor obsahuje na 2.ř. cestu k datovému souboru báze.\r\n" + inside + "\r\n");
+    EXPECT_EQ(readFile(configuration),
+              platform::toSystemText("Soubor obsahuje na 2.ř. cestu k datovému souboru báze.\r\n" + inside + "\r\n"));
 
     fs::remove(inside);
     fs::remove(configuration);
