@@ -24,6 +24,16 @@ constexpr Look kDisplay{" Zobrazení složky č. ", LATKA_C_VYPOCET};
 constexpr Look kChange{" Dočasná změna složky č. ", ZMENAZ_C_DATA};
 constexpr Look kCorrection{" Dočasná změna vlastností složky č. ", OPRAV_C_VYPOCET};
 
+bool hasFixedPitch(HWND control) {
+    const HDC context = CreateCompatibleDC(nullptr);
+    SelectObject(context, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    SIZE narrow{}, wide{};
+    GetTextExtentPoint32W(context, L"iří", 3, &narrow);
+    GetTextExtentPoint32W(context, L"WŘM", 3, &wide);
+    DeleteDC(context);
+    return narrow.cx == wide.cx;
+}
+
 // On the database beside this program.
 class NativeForms : public testing::Test {
   protected:
@@ -199,6 +209,7 @@ TEST_F(NativeForms, listIsFoundAndClosed) {
                      question.type(kInputText, "kyselina máselná");
                      question.press(kInputText, VK_RETURN);
                      const Window form(kList);
+                     EXPECT_TRUE(hasFixedPitch(form.control(SEZN_L_SEZN)));
                      EXPECT_EQ(form.text(SEZN_NADPIS_2), "k zadání nalezeno 1 látek");
                      form.press(SEZN_L_SEZN, VK_DOWN);  // moves and closes nothing
                      form.press(SEZN_L_SEZN, VK_HOME);

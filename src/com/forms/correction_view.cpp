@@ -43,7 +43,7 @@ class CorrectionView : public FormWindow {
         showText(control(OPRAV_C_ZPET), form_.C_ZpetCaption);
         int id = OPRAV_L_POLE;
         for (const std::string& caption : form_.L_Pole) showText(control(id++), caption);
-        useFixedPitch(OPRAV_L_VLAST, "Courier New");
+        useFixedPitch(OPRAV_L_VLAST);
         fillList(control(OPRAV_L_VLAST), form_.L_Vlast.items);
     }
     void display() override {

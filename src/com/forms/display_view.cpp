@@ -50,7 +50,7 @@ class DisplayView : public FormWindow {
             showText(control(LATKA_KONSTANTY + row), constant.value + " " + constant.unit);
             ++row;
         }
-        useFixedPitch(LATKA_L_VLAST, "Courier New");
+        useFixedPitch(LATKA_L_VLAST);
         fillList(control(LATKA_L_VLAST), form_.L_Vlast.items);
     }
     void display() override {

@@ -9,7 +9,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "com/forms/handles.h"
 #include "com/forms/layout.h"
@@ -58,8 +57,8 @@ class FormWindow {
     HWND control(int id) const { return GetDlgItem(window_, id); }
     void setCaption(std::string_view text);
     void setFocus(int id);
-    // In the fixed-pitch font of that name, or the system's own where there is none of that name.
-    void useFixedPitch(int list, std::string_view face);
+    // In the font of that name; where there is none, the system takes another one of fixed pitch.
+    void useFixedPitch(int list, std::string_view face = "Courier New");
     // Takes so much off the height of the window, in dialog units.
     void shorten(int units);
 

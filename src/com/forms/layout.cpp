@@ -37,16 +37,13 @@ int Layout::scaled(LONG length, unsigned dpi) const {
 }
 
 RECT Layout::placed(const Place& place, SIZE gain, unsigned dpi) const {
-    const auto along = [&](bool moves, bool grows, LONG first, LONG last, LONG room, LONG& from, LONG& to) {
-        from = scaled(first, dpi) + (moves ? room : 0);
-        to = scaled(last, dpi) + (moves || grows ? room : 0);
-    };
-    RECT rectangle{};
-    along(place.stretch & kMoveX, place.stretch & kGrowX, place.rectangle.left, place.rectangle.right, gain.cx,
-          rectangle.left, rectangle.right);
-    along(place.stretch & kMoveY, place.stretch & kGrowY, place.rectangle.top, place.rectangle.bottom, gain.cy,
-          rectangle.top, rectangle.bottom);
-    return rectangle;
+    const LONG left = place.stretch & kMoveX ? gain.cx : 0;
+    const LONG top = place.stretch & kMoveY ? gain.cy : 0;
+    const LONG right = place.stretch & (kMoveX | kGrowX) ? gain.cx : 0;
+    const LONG bottom = place.stretch & (kMoveY | kGrowY) ? gain.cy : 0;
+    const RECT& from = place.rectangle;
+    return {scaled(from.left, dpi) + left, scaled(from.top, dpi) + top, scaled(from.right, dpi) + right,
+            scaled(from.bottom, dpi) + bottom};
 }
 
 void Layout::arrange(HWND window, unsigned dpi) const {
