@@ -148,14 +148,15 @@ bool FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
 // The numbers of different kinds of notifications overlap. All others are left alone: a box tells of what was typed
 // before it can be read, too, and must not be shown its old text then.
 void FormWindow::notified(int id, int notification, HWND control) {
-    if (isClass(control, WC_EDITW) && notification == EN_CHANGE)
+    if (isClass(control, WC_EDITW) && notification == EN_CHANGE) {
         perform([&] { textChanged(id, textOf(control)); });
-    else if (isClass(control, WC_LISTBOXW) && notification == LBN_SELCHANGE)
+    } else if (isClass(control, WC_LISTBOXW) && notification == LBN_SELCHANGE) {
         perform([&] { lineSelected(id, selectionOf(control)); });
-    else if (isClass(control, WC_LISTBOXW) && notification == LBN_DBLCLK)
+    } else if (isClass(control, WC_LISTBOXW) && notification == LBN_DBLCLK) {
         perform([&] { doubleClicked(id); });
-    else if (isClass(control, WC_BUTTONW) && notification == BN_CLICKED)
+    } else if (isClass(control, WC_BUTTONW) && notification == BN_CLICKED) {
         perform([&] { clicked(id); });
+    }
 }
 
 void FormWindow::watch(HWND control) {
