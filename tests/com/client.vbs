@@ -104,6 +104,7 @@ s.ZadejSloz n, XX, WW
 v = s.ZadaneSlozeni(1): v = s.MolZlomky(1): v = s.HmotZlomky(1)
 s.ZadejSmes: s.mSeznam_zavrit
 s.mZadSmes_SZavrit Array(2, 235, 1): Check s.Nsloz = 2, "mZadSmes_SZavrit"
+s.mSloz_ZobrazL 2: s.mSloz_ZobrazZ 1
 s.mSloz_ZavriSloz: s.mSloz_ZpetSloz
 Dim hits: s.FindFiles "C:\Program Files", "*", "velor.drc", hits: Check hits(0) = "1", "FindFiles"
 
