@@ -21,7 +21,8 @@ make_czech_locale() {
 }
 
 locales=$root/build/locales
-install_packages "${needed_to_build[@]}" locales pkg-config tmux bash-completion groff-base man-db
+install_packages "${needed_to_build[@]}" locales pkg-config tmux bash-completion groff-base man-db \
+    lintian debootstrap
 make_czech_locale
 
 echo "== release, C"
@@ -29,6 +30,10 @@ build release
 LC_ALL=C run_tests release
 echo "== release, cs_CZ.UTF-8, a time zone east of Greenwich by 12:45"
 LOCPATH=$locales LC_ALL=cs_CZ.UTF-8 TZ='<+1245>-12:45' run_tests release -E '^package\.'
+
+echo "== balíček v holém Debianu"
+package=$root/build/release/tests/package/work/debian
+"$root/tests/package/bare_root.sh" "$package/velor.deb" "$package/program" "$root/build/release/bin/velor" "$root/build/bare-root"
 
 # Without the checks of alignment and vptr, which GCC 12 gets wrong for a call through a pointer to member.
 echo "== asan"
