@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds and runs every test: plainly in two locales, under the sanitizers, and the threads
-# under their own.
+# Installs what is missing, builds and runs every test: plainly in two locales, as Windows programs under Wine, under the
+# sanitizers, and the threads under their own. "./test.sh windows" runs the Windows part alone.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/tools/build.sh"
 
@@ -20,9 +20,30 @@ make_czech_locale() {
     [ "$(LOCPATH=$locales LC_ALL=cs_CZ.UTF-8 locale decimal_point)" = , ] || { echo "české prostředí se nepodařilo připravit" >&2; exit 1; }
 }
 
+# The component and the Windows programs. They are compared with the native release build.
+test_windows() {
+    if ! (install_packages "${needed_for_windows[@]}"); then
+        echo "VYNECHÁNO: balíčky ${needed_for_windows[*]} nelze nainstalovat." >&2
+        echo "Neběžely testy: knihovny velor.dll pro x64 a x86, jádro jako program Windows, registrace a klienti COM." >&2
+        return
+    fi
+    echo "== Windows, x86 (only read, nothing here runs it)"
+    build mingw-x86
+    run_tests mingw-x86
+    echo "== Windows, x64, under Wine"
+    build mingw-x64
+    (cd "$root" && xvfb-run -a ctest --preset mingw-x64 -j "$(nproc)" --progress)
+    (cd "$root" && grep -hE '^(overhead|growth|[0-9]+ calls)' build/mingw-x64/Testing/Temporary/LastTest.log)
+}
+
 locales=$root/build/locales
-install_packages "${needed_to_build[@]}" locales pkg-config tmux bash-completion groff-base man-db \
-    lintian debootstrap
+if [ "${1:-}" = windows ]; then
+    install_packages "${needed_to_build[@]}"
+    build release velor_database numbers_table
+    test_windows
+    exit
+fi
+install_packages "${needed_to_build[@]}" locales pkg-config tmux bash-completion groff-base man-db lintian debootstrap
 make_czech_locale
 
 echo "== release, C"
@@ -34,6 +55,8 @@ LOCPATH=$locales LC_ALL=cs_CZ.UTF-8 TZ='<+1245>-12:45' run_tests release -E '^pa
 echo "== balíček v holém Debianu"
 package=$root/build/release/tests/package/work/debian
 "$root/tests/package/bare_root.sh" "$package/velor.deb" "$package/program" "$root/build/release/bin/velor" "$root/build/bare-root"
+
+test_windows
 
 # Without the checks of alignment and vptr, which GCC 12 gets wrong for a call through a pointer to member.
 echo "== asan"

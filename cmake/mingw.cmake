@@ -2,6 +2,7 @@
 set(CMAKE_SYSTEM_NAME Windows)
 # The variant with POSIX threads is the one whose standard library has std::mutex.
 set(CMAKE_CXX_COMPILER ${triple}-g++-posix)
+set(CMAKE_C_COMPILER ${triple}-gcc-posix) # of GoogleTest, which asks for one
 set(CMAKE_RC_COMPILER ${triple}-windres)
 set(CMAKE_FIND_ROOT_PATH /usr/${triple})
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)

@@ -109,7 +109,7 @@ readme() {
 
 example() {
     local name output
-    for name in "$source"/examples/*.cpp; do
+    for name in $(grep -l velor/smes.h "$source"/examples/*.cpp); do
         compile "$work/example" "$name" $(flags --cflags --libs)
         output=$(LD_LIBRARY_PATH=$(library_folder) run "$work/example")
         # The text that the example promises at its end.

@@ -20,7 +20,9 @@ TEST(ReplaceFile, leavesTheOldOrTheNewContentOnly) {
     fs::permissions(path, fs::perms::owner_read | fs::perms::owner_write);
     platform::replaceFile(path, "two");
     EXPECT_EQ(readFile(path), "two");
+#ifndef _WIN32  // which knows a read-only mark alone
     EXPECT_EQ(fs::status(path).permissions(), fs::perms::owner_read | fs::perms::owner_write);
+#endif
     // A folder cannot be replaced by a file; what was begun is taken away again.
     fs::create_directories(folder / "target/inside");
     EXPECT_EQ(errorNumber([&] { platform::replaceFile(folder / "target", "three"); }), RunTimeError::kPathFileAccess);

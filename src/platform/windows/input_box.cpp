@@ -4,6 +4,7 @@
 #include <cstring>
 #include <vector>
 
+#include "platform/windows/library_file.h"
 #include "platform/windows/wide_text.h"
 #include "runtime/checked.h"
 
@@ -105,8 +106,8 @@ INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 std::string showInputBox(HWND owner, const InputRequest& request) {
     const Template layout;
     Dialog dialog{request, {}};
-    const INT_PTR pressed = DialogBoxIndirectParamW(GetModuleHandleW(nullptr), layout.get(), owner, procedure,
-                                                    reinterpret_cast<LPARAM>(&dialog));
+    const INT_PTR pressed =
+        DialogBoxIndirectParamW(libraryModule(), layout.get(), owner, procedure, reinterpret_cast<LPARAM>(&dialog));
     if (pressed != IDOK && pressed != IDCANCEL) checked::raise(RunTimeError::kInputPastEnd);
     return dialog.answer;
 }

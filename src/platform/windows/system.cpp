@@ -13,10 +13,7 @@ namespace {
 
 void addressOfThisLibrary() {}
 
-std::wstring pathOfImage(const void* address) {
-    HMODULE image = nullptr;
-    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
-                       static_cast<LPCWSTR>(address), &image);
+std::wstring pathOfImage(HMODULE image) {
     std::wstring path(MAX_PATH, L'\0');
     for (;;) {
         const DWORD length = GetModuleFileNameW(image, path.data(), static_cast<DWORD>(path.size()));
@@ -27,7 +24,14 @@ std::wstring pathOfImage(const void* address) {
 
 }  // namespace
 
-std::string libraryFile() { return fromWide(pathOfImage(reinterpret_cast<const void*>(&addressOfThisLibrary))); }
+HINSTANCE libraryModule() {
+    HMODULE image = nullptr;
+    GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                       reinterpret_cast<LPCWSTR>(&addressOfThisLibrary), &image);
+    return image;
+}
+
+std::string libraryFile() { return fromWide(pathOfImage(libraryModule())); }
 
 std::string libraryFolder() {
     const std::string path = libraryFile();

@@ -1,7 +1,13 @@
-// Native boxes, modal to the host's active window.
+// Native boxes and forms, modal to the form shown last or else to the host's active window.
 #pragma once
 
+#include <windows.h>
+
 #include "velor/user_interface.h"
+
+namespace velor::forms {
+class FormWindow;
+}
 
 namespace velor::platform {
 
@@ -10,10 +16,18 @@ class WindowsUserInterface : public UserInterface {
     Answer showMessage(const Message& message) override;
     // Storno, Esc and the frame's cross answer an empty text.
     std::string askText(const InputRequest& request) override;
-    // Closed at once: there is no view of them here.
     void showForm(F_Sezn& form) override;
     void showForm(F_Seznam& form) override;
     void showForm(F_Sloz& form) override;
+    void showForm(frmLatka& form) override;
+    void showForm(F_Zmenaz& form) override;
+    void showForm(frmOprav& form) override;
+
+  private:
+    void show(forms::FormWindow& form);
+    HWND owner() const;
+
+    const forms::FormWindow* topmost_ = nullptr;  // of the forms that are shown
 };
 
 }  // namespace velor::platform

@@ -1,0 +1,25 @@
+// Controls filled and read. A control that already shows what it should is left alone: it keeps its caret and does not
+// flicker.
+#pragma once
+
+#include <windows.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "velor/form_controls.h"
+
+namespace velor::forms {
+
+std::string textOf(HWND control);
+void showText(HWND control, std::string_view text);
+void showBox(HWND control, const TextBox& box);
+void showCheck(HWND button, bool isChecked);
+
+// The lines, as wide to scroll as the widest of them.
+void fillList(HWND list, const std::vector<std::string>& lines);
+void showSelection(HWND list, int selected);
+int selectionOf(HWND list);
+
+}  // namespace velor::forms

@@ -1,0 +1,80 @@
+#include "com/guard.h"
+
+#include <windows.h>
+#include <xmmintrin.h>
+
+#include <cfenv>
+#include <new>
+#include <string>
+
+#include "com/holders.h"
+#include "com/variant_conversion.h"
+#include "com/velor_com.h"
+#include "velor/run_time_error.h"
+
+namespace velor::com {
+
+namespace {
+
+// Hosts may have unmasked floating-point traps or chosen another precision or rounding.
+class DefaultFloatingPoint {
+  public:
+    DefaultFloatingPoint() {
+        std::fegetenv(&host_);
+        std::fesetenv(FE_PC64_ENV);  // the x87 unit alone: the mathematical functions need its full precision
+        _mm_setcsr(kDefaultMxcsr);
+    }
+    ~DefaultFloatingPoint() {
+        std::fesetenv(&host_);
+        _mm_setcsr(hostMxcsr_);
+    }
+    DefaultFloatingPoint(const DefaultFloatingPoint&) = delete;
+    DefaultFloatingPoint& operator=(const DefaultFloatingPoint&) = delete;
+
+  private:
+    static constexpr unsigned kDefaultMxcsr = 0x1F80;  // everything masked, to the nearest, subnormals kept
+
+    unsigned hostMxcsr_ = _mm_getcsr();  // the functions of the C library leave it out
+    std::fenv_t host_{};
+};
+
+// Where even this fails the host still has the code.
+void setErrorInformation(const std::string& source, const std::string& description) {
+    ICreateErrorInfo* created = nullptr;
+    if (FAILED(CreateErrorInfo(&created))) return;
+    const ComPointer<ICreateErrorInfo> information(created);
+    created->SetGUID(__uuidof(ISmes));
+    created->SetSource(toBstr(source).get());
+    created->SetDescription(toBstr(description).get());
+    IErrorInfo* error = nullptr;
+    if (FAILED(created->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(&error)))) return;
+    const ComPointer<IErrorInfo> owned(error);
+    SetErrorInfo(0, error);
+}
+
+HRESULT codeOf(std::int32_t number) {
+    return number > 0 ? MAKE_HRESULT(SEVERITY_ERROR, FACILITY_CONTROL, number) : static_cast<HRESULT>(number);
+}
+
+constexpr std::int32_t kOutOfMemory = 7, kInternalError = 51;
+
+}  // namespace
+
+HRESULT guardedCall(void (*body)(void*), void* context) noexcept {
+    const DefaultFloatingPoint ours;
+    try {
+        body(context);
+        return S_OK;
+    } catch (const RunTimeError& error) {
+        setErrorInformation(error.source(), error.description());
+        return codeOf(error.number());
+    } catch (const std::bad_alloc&) {
+        setErrorInformation("VELOR", "Out of memory");
+        return codeOf(kOutOfMemory);
+    } catch (...) {
+        setErrorInformation("VELOR", "Internal error");
+        return codeOf(kInternalError);
+    }
+}
+
+}  // namespace velor::com

@@ -1,0 +1,130 @@
+' A stranger's script: every member at least once, late-bound, and what comes back. Prints what fails; the last line
+' tells that it came to its end.
+Option Explicit
+Dim s, X(2), W(2), T, P, i, v, failures
+failures = 0
+
+Sub Check(ok, what)
+    If Not ok Then
+        failures = failures + 1
+        WScript.Echo "FAILED: " & what
+    End If
+End Sub
+
+Sub Near(value, expected, what)
+    Check Abs(value - expected) <= 0.001 * Abs(expected), what & " = " & value
+End Sub
+
+Sub Positive(value, what)
+    Check IsNumeric(value), what & " is a number"
+    Check value > 0, what & " = " & value
+End Sub
+
+Set s = CreateObject("VELOR.Smes")
+Check s.DataFileName = "VELOR.DRC" And s.CFGName = "VELOR.CFG", "names at first"
+Check Right(s.CFGPath, 1) = "\", "CFGPath"
+Check s.PocHlasek = 0 And s.MaxErrHlas = 20 And s.ChyboveHlasky = 0 And s.Redlich = 0, "settings at first"
+s.Adrvlr
+Check Right(s.AdrVELOR, 10) = "\VELOR.DRC" And s.SouborBaze = s.AdrVELOR, "AdrVELOR"
+s.DataFileName = "": s.CFGName = s.CFGName: s.CFGPath = s.CFGPath: s.AdrVELOR = s.AdrVELOR
+s.MezeZap: Check s.MezeTeplot = 1, "MezeZap"
+s.MezeVyp: Check s.MezeTeplot = 0, "MezeVyp"
+s.SNazev = "lihoviny": Check s.SNazev = "lihoviny", "SNazev"
+
+' The mixture
+s.DefSmes 1, Array(0, 1): Check s.Inivlr = 1 And s.Nsloz = 1, "DefSmes"
+s.DefSlozky Array(235, 1, 234): Check s.Inivlr = 3, "DefSlozky"
+s.Nsloz = 2: Check s.Nsloz = 2, "Nsloz"
+s.ZapisNslozky 2, 1: Check s.Nslozky(2) = 1, "ZapisNslozky"
+Near s.Mvi(1), 0.04607, "Mvi": Near s.Tkri(1) - s.TkriC(1), 273.15, "TkriC": Positive s.Pkri(1), "Pkri"
+Positive s.Vkri(1), "Vkri": Positive s.Acenti(1), "Acenti": Near s.Tnbvi(1) - s.TnbviC(1), 273.15, "TnbviC"
+Near s.Ttani(1) - s.TtaniC(1), 273.15, "TtaniC": Positive s.Htani(1), "Htani": v = s.Nlomui(1): v = s.TNlomui(1)
+Positive s.Dipolm(1), "Dipolm": v = s.TDipolm(1): v = s.Permiti(1): v = s.TPermiti(1): v = s.Gyr(1)
+Check Len(s.Nazev(1)) = 30 And Len(s.Vzorec(1)) = 20 And Len(s.Synonym(1)) = 30, "texts"
+Check s.CAS(1) = "[ 64-17-5]", "CAS = " & s.CAS(1)
+s.Nazev(1) = "jiny": Check Left(s.Nazev(1), 5) = "jiny " And Len(s.Nazev(1)) = 30, "Nazev"
+v = s.Bod(1, 2): s.Bod(1, 2) = 500: Check s.Bod(1, 2) = 500, "Bod": s.Bod(1, 2) = v
+v = s.VLRConst(1, 4, 1): s.VLRConst(1, 4, 1) = 0.5: Check s.VLRConst(1, 4, 1) = 0.5, "VLRConst": s.VLRConst(1, 4, 1) = v
+s.inivlast: Check s.PopisVlastnosti(11) = "Hustota (l)", "PopisVlastnosti"
+Check s.ChybRozv(9) = "TENS" And Len(s.Vztah(1)) > 0, "ChybRozv, Vztah"
+Check s.Hodnota("1,5x") = 1.5 And s.Log10(100) = 2 And Len(s.GFormat(1.5)) > 0, "Hodnota, Log10, GFormat"
+Check s.TrimNulls("ab" & Chr(0) & "c") = "ab", "TrimNulls"
+
+' Composition, in place
+X(1) = 4: X(2) = 6
+s.Normal X: Check X(1) = 0.4 And X(2) = 0.6, "Normal"
+Check s.KsumX(X) = "", "KsumX"
+Check s.Cohmo(X, W) = 2, "Cohmo": Near W(1) + W(2), 1, "Cohmo"
+X(1) = 0: X(2) = 0
+Check s.Comol(W, X) = 2, "Comol": Near X(1), 0.4, "Comol": Near s.Zlomky(1), 0.4, "Zlomky"
+Positive s.VSM(X), "VSM": Check IsEmpty(s.PocetSmesi(X)), "PocetSmesi"
+
+' Properties
+T = 330: P = 101325
+Positive s.FFce(T, 1, 9), "FFce"
+Positive s.ROLW(T, X), "ROLW": Near s.Slozeni(2), 0.6, "Slozeni": Positive s.ETAL(T, X), "ETAL": Positive s.ALAL(T, X), "ALAL"
+Near s.CPL(T, X) / s.CPLW(T, X), s.VSM(X), "CPLW": Near s.DHV(T, X) / s.DHVW(T, X), s.VSM(X), "DHVW"
+Near s.HL(T, X) / s.HLW(T, X), s.VSM(X), "HLW": Near s.SL(T, X) / s.SLW(T, X), s.VSM(X), "SLW"
+Positive s.SIGMA(T, X), "SIGMA": Positive s.TENS(T, X), "TENS": Positive s.PrL(T, X), "PrL"
+Positive s.ReL(T, X, 1, 0.1), "ReL": Positive s.ObjRozL(T, X), "ObjRozL"
+Positive s.PSEUD(X, "T"), "PSEUD": s.PseudShow X
+Near s.TKRITsm, s.PSEUD(X, "t"), "TKRITsm": Positive s.PKRITsm, "PKRITsm": Positive s.VKRITsm, "VKRITsm"
+Positive s.ZKRITsm, "ZKRITsm": Near s.MSm, s.VSM(X), "MSm"
+Positive s.ETAG(T, X), "ETAG": Positive s.ALAG(T, X), "ALAG": Near s.CPG(T, X) / s.CPGW(T, X), s.VSM(X), "CPGW"
+Positive s.ROGW(T, P, X), "ROGW"
+s.Redlich = 1
+Positive s.TEVRP(1, T, P, X), "TEVRP": Positive s.RGHustota, "RGHustota": v = s.RGLnFug: v = s.RGJouleThomson
+Near s.RHG(T, P, X), s.RGEntalpie, "RHG": Near s.RSG(T, P, X), s.RGEntropie, "RSG"
+Near s.RUG(T, P, X), s.RGVnitrniEnergie, "RUG": Near s.RCPG(T, P, X), s.RGCp, "RCPG": Near s.RCVG(T, P, X), s.RGCv, "RCVG"
+Near s.RHG(T, P, X) / s.RHGW(T, P, X), s.VSM(X), "RHGW": Near s.RSG(T, P, X) / s.RSGW(T, P, X), s.VSM(X), "RSGW"
+Near s.RUG(T, P, X) / s.RUGW(T, P, X), s.VSM(X), "RUGW": Near s.RCPG(T, P, X) / s.RCPGW(T, P, X), s.VSM(X), "RCPGW"
+Near s.RCVG(T, P, X) / s.RCVGW(T, P, X), s.VSM(X), "RCVGW"
+Near s.Kapa(T, P, X), s.RGCp / s.RGCv, "Kapa": Near s.LnFug(T, P, X), s.RGLnFug, "LnFug"
+Near s.JTkoef(T, P, X), s.RGJouleThomson, "JTkoef": Positive s.RROGW(T, P, X), "RROGW"
+Positive s.RETAG(T, P, X), "RETAG": Positive s.RALAG(T, P, X), "RALAG": Positive s.PrG(T, P, X), "PrG"
+Positive s.ReG(T, P, X, 1, 0.1), "ReG"
+Near s.Vlastnost("rolw", X, T, P), s.ROLW(T, X), "Vlastnost"
+v = s.TBV(P, X): Check s.TRB(P, X) > v, "TRB above TBV"
+T = (v + s.TRB(P, X)) / 2
+Check InStr(s.FLASH(0, T, P, X), vbCrLf) > 0, "FLASH": Check s.lastFlash("outcome") = 3, "lastFlash"
+v = s.lastFlash("liquid"): Near v(1) + v(2), 1, "lastFlash(liquid)"
+T = 350
+v = s.FLASH(1, T, P * 3, X): Check T <> 0, "FLASH gives the temperature back"
+
+' Dialogs: the forms close at once, questions are answered with Storno
+s.AkSeznam: Check s.PocLatek > 400 And Len(s.SeznamLatek(1)) > 0, "AkSeznam"
+s.SeznamShow: Check s.RezimSeznamu = -1, "SeznamShow"
+s.SeznamShow 2: Check s.RezimSeznamu = 2, "SeznamShow 2"
+Dim list: list = Array("", "c", "a", "b")
+s.QuickSort list, 1, 3: Check list(1) & list(2) & list(3) = "abc", "QuickSort"
+s.SWAP list, 1, 3: Check list(1) & list(2) & list(3) = "cba", "SWAP"
+v = s.RandInt(1, 6): Check v >= 1 And v <= 6, "RandInt"
+Dim n, XX(20), WW(20)
+s.ZadejSloz n, XX, WW
+v = s.ZadaneSlozeni(1): v = s.MolZlomky(1): v = s.HmotZlomky(1)
+s.ZadejSmes: s.mSeznam_zavrit
+s.mZadSmes_SZavrit Array(2, 235, 1): Check s.Nsloz = 2, "mZadSmes_SZavrit"
+s.mSloz_ZavriSloz: s.mSloz_ZpetSloz
+Dim hits: s.FindFiles "C:\Program Files", "*", "velor.drc", hits: Check hits(0) = "1", "FindFiles"
+
+' Raised errors
+s.ResetujSmes: s.DefSlozky Array(235, 1): s.Inivlr
+s.ChyboveHlasky = -1
+On Error Resume Next
+v = s.ROLW("x", X)
+Check Err.Number = -2147220904, "number " & Err.Number
+Check Left(Err.Source, 12) = "VELOR - ROLW", "source " & Err.Source
+Check Left(Err.Description, 7) = "Chyba p" And Len(Err.Description) = 29, "description " & Err.Description
+Err.Clear: v = s.Mvi(21): Check Err.Number = 9, "classic number " & Err.Number
+Err.Clear: v = s.Mvi(100000): Check Err.Number = 6, "overflow " & Err.Number
+Err.Clear: v = s.NoSuchMember: Check Err.Number = 438, "unknown member " & Err.Number
+Err.Clear
+On Error GoTo 0
+
+' The budget of messages
+s.ChyboveHlasky = 0: s.MaxErrHlas = s.PocHlasek + 2
+For i = 1 To 5: v = s.FFce(300, 99, 1): Next
+Check s.PocHlasek = s.MaxErrHlas, "budget"
+Set s = Nothing
+WScript.Echo "HOTOVO"
+WScript.Quit failures

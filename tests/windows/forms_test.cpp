@@ -1,0 +1,385 @@
+// The native forms as their users meet them: keys and mouse from another thread, results in the mixture.
+#include "velor/forms.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "com/forms/form_ids.h"
+#include "runtime/text.h"
+#include "velor/component_forms.h"
+#include "velor/run_time_error.h"
+#include "velor/smes.h"
+#include "windows/user.h"
+
+namespace velor::test {
+
+namespace {
+
+constexpr Look kList{"VELOR", SEZN_L_SEZN};
+constexpr Look kChoice{" SEZNAM LÁTEK - definice složek směsi", SEZNAM_C_OK};
+constexpr Look kComposition{" Zadání složení směsi", SLOZ_C_OK};
+constexpr Look kDisplay{" Zobrazení složky č. ", LATKA_C_VYPOCET};
+constexpr Look kChange{" Dočasná změna složky č. ", ZMENAZ_C_DATA};
+constexpr Look kCorrection{" Dočasná změna vlastností složky č. ", OPRAV_C_VYPOCET};
+
+bool hasFixedPitch(HWND control) {
+    const HDC context = CreateCompatibleDC(nullptr);
+    SelectObject(context, reinterpret_cast<HFONT>(SendMessageW(control, WM_GETFONT, 0, 0)));
+    SIZE narrow{}, wide{};
+    GetTextExtentPoint32W(context, L"iří", 3, &narrow);
+    GetTextExtentPoint32W(context, L"WŘM", 3, &wide);
+    DeleteDC(context);
+    return narrow.cx == wide.cx;
+}
+
+// On the database beside this program.
+class NativeForms : public testing::Test {
+  protected:
+    Smes smes;
+    Variant n, X = Fractions(std::vector<double>(20, 0.0)), W = X;
+
+    NativeForms() { smes.AdrVELOR(smes.CFGPath() + smes.DataFileName()); }
+
+    void define(const std::vector<int>& numbers) {
+        smes.DefSlozky(List(numbers));
+        ASSERT_EQ(smes.Inivlr().toInt16(), static_cast<int>(numbers.size()));
+    }
+    void enterComposition() { smes.ZadejSloz(n, X, W, "", 1); }
+};
+
+TEST_F(NativeForms, componentsAreChosenByMouseAndByKeys) {
+    together([&] { smes.ZadejSmes(); },
+             [&] {
+                 const Window form(kChoice);
+                 EXPECT_EQ(form.text(SEZNAM_NADPIS_1), "SEZNAM LÁTEK DATABÁZE  V E L O R");
+                 EXPECT_EQ(form.text(SEZNAM_OPTION2), "&Výběrem ze seznamu látek");
+                 EXPECT_EQ(form.text(SEZNAM_LBLDATAFILE), smes.AdrVELOR());
+                 EXPECT_FALSE(form.isVisible(SEZNAM_T_SMES + 1));
+                 const int third = std::stoi(smes.SeznamLatek(3)), fourth = std::stoi(smes.SeznamLatek(4));
+                 form.doubleClickLine(SEZNAM_L_SEZNAM, 2);
+                 form.expectText(SEZNAM_T_SMES, std::to_string(third));
+                 form.press(SEZNAM_L_SEZNAM, VK_DOWN);
+                 form.press(SEZNAM_L_SEZNAM, VK_RETURN);
+                 form.expectText(SEZNAM_T_SMES + 1, std::to_string(fourth));
+                 form.pressAlt(SEZNAM_L_SEZNAM, L'z');  // again from the start
+                 form.expectText(SEZNAM_T_SMES, "");
+                 form.expectFocus(SEZNAM_T_SMES);
+                 form.type(SEZNAM_T_SMES, "5");
+                 form.expectText(SEZNAM_T_SMES, "5");
+                 form.type(SEZNAM_T_SMES, "x");  // no number, so that the box is emptied
+                 form.expectText(SEZNAM_T_SMES, "");
+                 form.press(SEZNAM_T_SMES, '5');
+                 form.expectText(SEZNAM_T_SMES, "5");
+                 form.press(SEZNAM_T_SMES, '7');
+                 form.expectText(SEZNAM_T_SMES, "57");
+                 form.press(SEZNAM_T_SMES, VK_RETURN);
+                 form.expectFocus(SEZNAM_T_SMES + 1);
+                 form.type(SEZNAM_T_SMES + 1, "1");
+                 form.press(SEZNAM_T_SMES + 1, VK_RETURN);
+                 form.expectFocus(SEZNAM_T_SMES + 2);
+                 form.click(SEZNAM_C_OK);
+                 form.expectGone();
+             });
+    EXPECT_EQ(smes.Inivlr().toInt16(), 2);
+    EXPECT_EQ(smes.Nslozky(1).toInt16(), 57);
+    EXPECT_EQ(smes.Nslozky(2).toInt16(), 1);
+}
+
+TEST_F(NativeForms, compositionIsTyped) {
+    define({1, 57, 100});
+    together([&] { enterComposition(); },
+             [&] {
+                 const Window form(kComposition);
+                 form.expectFocus(SLOZ_T_S);
+                 EXPECT_EQ(form.text(SLOZ_L_J), smes.Nazev(1).toText());
+                 EXPECT_FALSE(form.isVisible(SLOZ_T_S + 3));
+                 form.replaceText(SLOZ_T_S, "2");
+                 form.press(SLOZ_T_S, VK_RETURN);
+                 form.expectFocus(SLOZ_T_S + 1);
+                 form.type(SLOZ_T_S + 1, "1,0");  // the box was selected when it got the focus
+                 form.expectText(SLOZ_T_S + 1, "1,0");
+                 form.click(SLOZ_C_OK);
+             });
+    EXPECT_EQ(n.toInt16(), 3);
+    EXPECT_DOUBLE_EQ(X.at(1).toDouble(), 0.5);
+    EXPECT_DOUBLE_EQ(X.at(3).toDouble(), 0.25);
+}
+
+TEST_F(NativeForms, valuesMayBeOfMass) {
+    define({1, 57});
+    together([&] { enterComposition(); },
+             [&] {
+                 const Window form(kComposition);
+                 form.click(SLOZ_O_HMOT);
+                 form.expectFocus(SLOZ_T_S);
+                 form.pressAlt(SLOZ_T_S, L'p');
+             });
+    EXPECT_DOUBLE_EQ(W.at(1).toDouble(), 0.5);
+    EXPECT_NE(X.at(1).toDouble(), 0.5);
+}
+
+TEST_F(NativeForms, componentIsShown) {
+    define({57, 1});
+    together([&] { enterComposition(); },
+             [&] {
+                 const Window composition(kComposition);
+                 composition.mouse(SLOZ_L_J + 1, WM_LBUTTONDOWN);
+                 const Window form(kDisplay);
+                 EXPECT_FALSE(IsWindowEnabled(composition.get()));
+                 EXPECT_EQ(GetWindow(form.get(), GW_OWNER), composition.get());
+                 EXPECT_TRUE(smes.Nazev(2).toText().starts_with(form.text(LATKA_NAZEV)));
+                 EXPECT_EQ(form.text(LATKA_KONSTANTY_POPIS + 14), "normální teplota varu");
+                 form.press(LATKA_L_VLAST, VK_END);
+                 form.press(LATKA_L_VLAST, VK_UP);
+                 form.replaceText(LATKA_T_TEPLOTA, "350");
+                 form.press(LATKA_T_TEPLOTA, VK_RETURN);
+                 const std::string pressure = Smes::GFormat(smes.FFce(350.0, 2, 9));
+                 form.expectText(LATKA_HODNOTA, std::string(trimBlanks(pressure)) + " Pa");
+                 form.replaceText(LATKA_T_TEPLOTA, "-1");
+                 form.click(LATKA_C_VYPOCET);
+                 const Window message(kMessageBox);
+                 EXPECT_EQ(GetWindow(message.get(), GW_OWNER), form.get());
+                 EXPECT_EQ(message.text(kMessageText), "Teplota: zadejte kladné číslo v kelvinech.");
+                 message.click(IDOK);
+                 message.expectGone();
+                 form.pressAlt(LATKA_T_TEPLOTA, L'z');
+                 form.expectGone();
+                 composition.click(SLOZ_C_OK);
+             });
+    EXPECT_DOUBLE_EQ(X.at(1).toDouble(), 0.5);
+}
+
+TEST_F(NativeForms, componentIsChangedForTheTime) {
+    define({1, 57});
+    together([&] { enterComposition(); },
+             [&] {
+                 const Window composition(kComposition);
+                 composition.mouse(SLOZ_L_J, WM_RBUTTONDOWN);
+                 const Window names(kChange);
+                 names.expectFocus(ZMENAZ_T_POLE);
+                 names.type(ZMENAZ_T_POLE, "Živá voda");
+                 names.replaceText(ZMENAZ_T_POLE + F_Zmenaz::kFirstConstant, "nic");
+                 names.click(ZMENAZ_C_DATA);
+                 const Window message(kMessageBox);
+                 EXPECT_EQ(message.text(kMessageText), "Pole „molární hmotnost“: zadejte kladné číslo.");
+                 message.close();
+                 names.expectFocus(ZMENAZ_T_POLE + F_Zmenaz::kFirstConstant);
+                 names.type(ZMENAZ_T_POLE + F_Zmenaz::kFirstConstant, "0,02");
+                 names.click(ZMENAZ_C_DATA);
+                 const Window data(kCorrection);
+                 data.press(OPRAV_L_VLAST, VK_DOWN);  // gas heat capacity
+                 data.expectFocus(OPRAV_T_POLE);
+                 data.replaceText(OPRAV_T_POLE, "1");
+                 data.expectText(OPRAV_VZTAH, "y = A1 + A2.T   přímka");
+                 data.press(OPRAV_T_POLE, VK_RETURN);
+                 data.expectFocus(OPRAV_T_POLE + 1);
+                 data.type(OPRAV_T_POLE + 1, "77");
+                 data.replaceText(OPRAV_T_POLE + 2, "0");
+                 data.click(OPRAV_C_VYPOCET);
+                 data.expectText(OPRAV_PO, "77.00 J/(mol·K)");
+                 data.click(OPRAV_C_OK);
+                 data.expectGone();
+                 composition.expectText(SLOZ_L_J, smes.Nazev(1).toText());
+                 composition.click(SLOZ_C_OK);
+             });
+    ASSERT_FALSE(HasFailure());
+    EXPECT_TRUE(smes.Nazev(1).toText().starts_with("Živá voda"));
+    EXPECT_FLOAT_EQ(smes.Bod(1, 1), 0.02F);
+    EXPECT_EQ(smes.FFce(300.0, 1, 2).toDouble(), 77.0);
+}
+
+TEST_F(NativeForms, listIsFoundAndClosed) {
+    struct Case {
+        const char* name;
+        void (*close)(const Window& form);
+    };
+    for (const Case& way : {
+             Case{"Esc", [](const Window& form) { form.press(SEZN_L_SEZN, VK_ESCAPE); }},
+             Case{"Enter", [](const Window& form) { form.press(SEZN_L_SEZN, VK_RETURN); }},
+             Case{"a character", [](const Window& form) { form.type(SEZN_L_SEZN, "x"); }},
+             Case{"a click", [](const Window& form) { PostMessageW(form.get(), WM_LBUTTONDOWN, 0, 0); }},
+             Case{"the cross", [](const Window& form) { form.close(); }},
+         }) {
+        SCOPED_TRACE(way.name);
+        together([&] { smes.SeznamShow(2); },
+                 [&] {
+                     const Window question(kInputBox);
+                     question.type(kInputText, "kyselina máselná");
+                     question.press(kInputText, VK_RETURN);
+                     const Window form(kList);
+                     EXPECT_TRUE(hasFixedPitch(form.control(SEZN_L_SEZN)));
+                     EXPECT_EQ(form.text(SEZN_NADPIS_2), "k zadání nalezeno 1 látek");
+                     form.press(SEZN_L_SEZN, VK_DOWN);  // moves and closes nothing
+                     form.press(SEZN_L_SEZN, VK_HOME);
+                     way.close(form);
+                     form.expectGone();
+                 });
+    }
+}
+
+TEST_F(NativeForms, everyOtherFormGoesBack) {
+    struct Form {
+        Look look;
+        int focus, back;  // controls; 0 for no such button
+        UINT button;      // of the mouse, on the component's name
+    };
+    constexpr Form kForms[] = {
+        {kChoice, SEZNAM_T_SMES, 0, 0},
+        {kComposition, SLOZ_T_S, SLOZ_C_ZPET, 0},
+        {kDisplay, LATKA_L_VLAST, LATKA_C_ZPET, WM_LBUTTONDOWN},
+        {kChange, ZMENAZ_T_POLE, ZMENAZ_C_ZPET, WM_RBUTTONDOWN},
+        {kCorrection, OPRAV_T_POLE, OPRAV_C_ZPET, WM_RBUTTONDOWN},
+    };
+    for (const Form& form : kForms) {
+        for (const char* way : {"Esc", "cross", "button"}) {
+            SCOPED_TRACE(std::string(form.look.caption) + " by " + way);
+            define({1, 57});
+            const bool isChoice = form.look.caption == kChoice.caption;
+            together([&] { isChoice ? smes.ZadejSmes() : enterComposition(); },
+                     [&] {
+                         if (form.button != 0) Window(kComposition).mouse(SLOZ_L_J, form.button);
+                         if (form.look.caption == kCorrection.caption) Window(kChange).click(ZMENAZ_C_DATA);
+                         const Window window(form.look);
+                         if (way[0] == 'E' || form.back == 0) window.press(form.focus, VK_ESCAPE);
+                         if (way[0] == 'c') window.close();
+                         if (way[0] == 'b' && form.back != 0) window.click(form.back);
+                         window.expectGone();
+                         if (form.button != 0) Window(kComposition).close();
+                     });
+            EXPECT_EQ(smes.Nsloz().toInt16(), isChoice ? 2 : 0);
+        }
+    }
+}
+
+TEST_F(NativeForms, tooMuchOrNothingIsTold) {
+    together([&] { smes.ZadejSmes(); },
+             [&] {
+                 const Window form(kChoice);
+                 form.click(SEZNAM_C_OK);
+                 const Window nothing(kMessageBox);
+                 EXPECT_EQ(nothing.text(kMessageText),
+                           "Nezadána žádná látka nebo po zadání čísla látky nebyl stisknut Enter!");
+                 nothing.click(IDOK);
+                 form.expectFocus(SEZNAM_T_SMES);
+                 for (int k = 0; k <= F_Seznam::kBoxes; ++k) form.press(SEZNAM_L_SEZNAM, VK_RETURN);
+                 const Window tooMuch(kMessageBox);
+                 EXPECT_EQ(tooMuch.text(kMessageText), "Maximální počet složek směsi je 20");
+                 tooMuch.press(IDOK, VK_SPACE);
+                 tooMuch.expectGone();
+                 form.close();
+             });
+}
+
+// The host gets what a form's object throws; the window is gone by then.
+TEST_F(NativeForms, errorReachesTheHost) {
+    int number = 0;
+    const auto host = [&] {
+        try {
+            smes.ZadejSmes();
+        } catch (const RunTimeError& error) {
+            number = error.number();
+        }
+    };
+    together(host, [&] {
+        const Window form(kChoice);
+        form.type(SEZNAM_T_SMES, "99999");
+        form.press(SEZNAM_T_SMES, VK_RETURN);
+        form.click(SEZNAM_C_OK);
+        form.expectGone();
+    });
+    EXPECT_EQ(number, RunTimeError::kOverflow);
+}
+
+class HostWindow {
+  public:
+    HostWindow()
+        : window_(CreateWindowExW(0, L"STATIC", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 100, 100, 400, 300, nullptr,
+                                  nullptr, nullptr, nullptr)) {
+        SetActiveWindow(window_);
+    }
+    ~HostWindow() { DestroyWindow(window_); }
+    HostWindow(const HostWindow&) = delete;
+    HostWindow& operator=(const HostWindow&) = delete;
+
+    HWND get() const { return window_; }
+
+  private:
+    HWND window_;
+};
+
+TEST_F(NativeForms, hostIsOwnerAndWaits) {
+    const HostWindow host;
+    together([&] { smes.ZadejSmes(); },
+             [&] {
+                 const Window form(kChoice);
+                 EXPECT_EQ(GetWindow(form.get(), GW_OWNER), host.get());
+                 EXPECT_FALSE(IsWindowEnabled(host.get()));
+                 form.close();
+             });
+    EXPECT_TRUE(IsWindowEnabled(host.get()));
+}
+
+TEST_F(NativeForms, endOfTheHostIsBack) {
+    define({1, 57});
+    const HostWindow host;
+    together([&] { enterComposition(); },
+             [&] {
+                 Window(kComposition).mouse(SLOZ_L_J, WM_RBUTTONDOWN);
+                 const Window form(kChange);
+                 form.type(ZMENAZ_T_POLE, "Ztraceno");
+                 PostMessageW(host.get(), WM_CLOSE, 0, 0);
+                 form.expectGone();
+             });
+    EXPECT_FALSE(IsWindow(host.get()));
+    EXPECT_EQ(smes.Nsloz().toInt16(), 0);
+}
+
+TEST_F(NativeForms, listTakesTheRoomAndButtonsKeepTheirDistance) {
+    together([&] { smes.ZadejSmes(); },
+             [&] {
+                 const Window form(kChoice);
+                 const RECT list = form.place(SEZNAM_L_SEZNAM), button = form.place(SEZNAM_ZPET);
+                 RECT outer;
+                 GetWindowRect(form.get(), &outer);
+                 const auto resize = [&](LONG width, LONG height) {
+                     SetWindowPos(form.get(), nullptr, 0, 0, width, height, SWP_NOZORDER | SWP_NOMOVE);
+                 };
+                 const LONG width = outer.right - outer.left, height = outer.bottom - outer.top;
+                 resize(width + 100, height + 50);
+                 EXPECT_EQ(form.place(SEZNAM_L_SEZNAM).right, list.right + 100);
+                 EXPECT_EQ(form.place(SEZNAM_L_SEZNAM).bottom, list.bottom + 50);
+                 EXPECT_EQ(form.place(SEZNAM_ZPET).left, button.left + 100);
+                 EXPECT_EQ(form.place(SEZNAM_ZPET).top, button.top + 50);
+                 MINMAXINFO limits{};
+                 SendMessageW(form.get(), WM_GETMINMAXINFO, 0, reinterpret_cast<LPARAM>(&limits));
+                 EXPECT_EQ(limits.ptMinTrackSize.x, width);
+                 resize(width, height);
+                 EXPECT_EQ(form.place(SEZNAM_L_SEZNAM).bottom, list.bottom);
+                 form.close();
+             });
+}
+
+// The window moves to a screen of half as high a resolution again.
+TEST_F(NativeForms, resolutionScalesFontsAndControls) {
+    together([&] { smes.ZadejSmes(); },
+             [&] {
+                 const Window form(kChoice);
+                 const RECT box = form.place(SEZNAM_T_SMES + 19);
+                 const LRESULT line = SendMessageW(form.control(SEZNAM_L_SEZNAM), LB_GETITEMHEIGHT, 0, 0);
+                 RECT outer;
+                 GetWindowRect(form.get(), &outer);
+                 outer.right += (outer.right - outer.left) / 2;
+                 outer.bottom += (outer.bottom - outer.top) / 2;
+                 SendMessageW(form.get(), WM_DPICHANGED, MAKEWPARAM(144, 144), reinterpret_cast<LPARAM>(&outer));
+                 EXPECT_EQ(form.place(SEZNAM_T_SMES + 19).right, MulDiv(box.right, 3, 2));
+                 EXPECT_NEAR(static_cast<double>(SendMessageW(form.control(SEZNAM_L_SEZNAM), LB_GETITEMHEIGHT, 0, 0)),
+                             static_cast<double>(line) * 1.5, 2.0);
+                 form.close();
+             });
+}
+
+}  // namespace
+
+}  // namespace velor::test
