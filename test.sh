@@ -24,7 +24,7 @@ make_czech_locale() {
 test_windows() {
     if ! (install_packages "${needed_for_windows[@]}"); then
         echo "VYNECHÁNO: balíčky ${needed_for_windows[*]} nelze nainstalovat." >&2
-        echo "Neběžely testy: knihovny velor.dll pro x64 a x86, jádro jako program Windows, registrace a klienti COM." >&2
+        echo "Neběžely testy: knihovny velor.dll pro x64 a x86, jádro jako program Windows, registrace a klienti COM, balíček." >&2
         return
     fi
     echo "== Windows, x86 (only read, nothing here runs it)"
@@ -33,13 +33,21 @@ test_windows() {
     echo "== Windows, x64, under Wine"
     build mingw-x64
     (cd "$root" && xvfb-run -a ctest --preset mingw-x64 -j "$(nproc)" --progress)
+    echo "== Windows package"
+    build mingw-x64 windows_package
+    local package wine
+    package=$(ls -t "$root"/build/mingw-x64/velor-*-windows.zip | head -n 1)
+    wine=$(sed -n 's/^VELOR_WINE:FILEPATH=//p' "$root/build/mingw-x64/CMakeCache.txt")
+    LOCPATH=$locales LC_ALL=cs_CZ.UTF-8 xvfb-run -a "$root/tests/package/windows_package.sh" "$package" "$wine" \
+        x86_64-w64-mingw32-g++-posix "$root/build/release/bin/velor" "$root/build/windows-package"
     (cd "$root" && grep -hE '^(overhead|growth|[0-9]+ calls)' build/mingw-x64/Testing/Temporary/LastTest.log)
 }
 
 locales=$root/build/locales
 if [ "${1:-}" = windows ]; then
-    install_packages "${needed_to_build[@]}"
-    build release velor_database numbers_table
+    install_packages "${needed_to_build[@]}" locales
+    make_czech_locale
+    build release velor_database velor_command numbers_table
     test_windows
     exit
 fi

@@ -1,17 +1,20 @@
 # The Debian package: what "cmake --install" puts under /usr, with the documents that the distribution asks for. One
 # package, because it is handed over as one file and there is no archive from which the parts of a split one would find
 # each other.
-set(documents ${CMAKE_INSTALL_DATADIR}/doc/velor)
-install(FILES ${CMAKE_CURRENT_LIST_DIR}/copyright DESTINATION ${documents})
-install(FILES ${CMAKE_CURRENT_LIST_DIR}/changelog RENAME changelog.Debian DESTINATION ${documents})
-install(FILES ${PROJECT_SOURCE_DIR}/CHANGELOG.md RENAME changelog DESTINATION ${documents})
-install(FILES ${PROJECT_SOURCE_DIR}/data/README.md RENAME data-sources.md DESTINATION ${documents})
-install(FILES ${PROJECT_SOURCE_DIR}/docs/properties.md DESTINATION ${documents})
-install(DIRECTORY ${PROJECT_SOURCE_DIR}/examples DESTINATION ${documents} FILES_MATCHING PATTERN "*.cpp")
-install(FILES ${CMAKE_CURRENT_LIST_DIR}/lintian-overrides RENAME velor
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/lintian/overrides)
+function(velor_package_document source name folder)
+    install(FILES ${source} RENAME ${name} DESTINATION ${CMAKE_INSTALL_DATADIR}/${folder}
+        COMPONENT debian EXCLUDE_FROM_ALL)
+endfunction()
+velor_package_document(${CMAKE_CURRENT_LIST_DIR}/copyright copyright doc/velor)
+velor_package_document(${CMAKE_CURRENT_LIST_DIR}/changelog changelog.Debian doc/velor)
+velor_package_document(${PROJECT_SOURCE_DIR}/CHANGELOG.md changelog doc/velor)
+velor_package_document(${PROJECT_SOURCE_DIR}/data/README.md data-sources.md doc/velor)
+velor_package_document(${PROJECT_SOURCE_DIR}/docs/properties.md properties.md doc/velor)
+velor_package_document(${PROJECT_SOURCE_DIR}/examples/mixture.cpp mixture.cpp doc/velor/examples)
+velor_package_document(${CMAKE_CURRENT_LIST_DIR}/lintian-overrides velor lintian/overrides)
 
 set(CPACK_GENERATOR DEB)
+set(CPACK_INSTALL_CMAKE_PROJECTS "${PROJECT_BINARY_DIR};velor;ALL;/" "${PROJECT_BINARY_DIR};velor;debian;/")
 # By DESTDIR, so that VELOR.CFG names the place where the database will be used.
 set(CPACK_SET_DESTDIR ON)
 set(CPACK_INSTALL_PREFIX /usr)
