@@ -24,7 +24,7 @@ make_czech_locale() {
 test_windows() {
     if ! (install_packages "${needed_for_windows[@]}"); then
         echo "VYNECHÁNO: balíčky ${needed_for_windows[*]} nelze nainstalovat." >&2
-        echo "Neběžely testy: knihovny velor.dll pro x64 a x86, jádro jako program Windows, registrace a klienti COM." >&2
+        echo "Neběžely testy: knihovny velor.dll pro x64 a x86, jádro jako program Windows, registrace a klienti COM, balíček." >&2
         return
     fi
     echo "== Windows, x86 (only read, nothing here runs it)"
@@ -33,17 +33,25 @@ test_windows() {
     echo "== Windows, x64, under Wine"
     build mingw-x64
     (cd "$root" && xvfb-run -a ctest --preset mingw-x64 -j "$(nproc)" --progress)
+    echo "== Windows package"
+    build mingw-x64 windows_package
+    local package wine
+    package=$(ls -t "$root"/build/mingw-x64/velor-*-windows.zip | head -n 1)
+    wine=$(sed -n 's/^VELOR_WINE:FILEPATH=//p' "$root/build/mingw-x64/CMakeCache.txt")
+    LOCPATH=$locales LC_ALL=cs_CZ.UTF-8 xvfb-run -a "$root/tests/package/windows_package.sh" "$package" "$wine" \
+        x86_64-w64-mingw32-g++-posix "$root/build/release/bin/velor" "$root/build/windows-package"
     (cd "$root" && grep -hE '^(overhead|growth|[0-9]+ calls)' build/mingw-x64/Testing/Temporary/LastTest.log)
 }
 
 locales=$root/build/locales
 if [ "${1:-}" = windows ]; then
-    install_packages "${needed_to_build[@]}"
-    build release velor_database numbers_table
+    install_packages "${needed_to_build[@]}" locales
+    make_czech_locale
+    build release velor_database velor_command numbers_table
     test_windows
     exit
 fi
-install_packages "${needed_to_build[@]}" locales pkg-config tmux bash-completion groff-base man-db
+install_packages "${needed_to_build[@]}" locales pkg-config tmux bash-completion groff-base man-db lintian debootstrap
 make_czech_locale
 
 echo "== release, C"
@@ -52,9 +60,13 @@ LC_ALL=C run_tests release
 echo "== release, cs_CZ.UTF-8, a time zone east of Greenwich by 12:45"
 LOCPATH=$locales LC_ALL=cs_CZ.UTF-8 TZ='<+1245>-12:45' run_tests release -E '^package\.'
 
-# Without the checks of alignment and vptr, which GCC 12 gets wrong for a call through a pointer to member.
+echo "== balíček v holém Debianu"
+package=$root/build/release/tests/package/work/debian
+"$root/tests/package/bare_root.sh" "$package/velor.deb" "$package/program" "$root/build/release/bin/velor" "$root/build/bare-root"
+
 test_windows
 
+# Without the checks of alignment and vptr, which GCC 12 gets wrong for a call through a pointer to member.
 echo "== asan"
 build asan
 LC_ALL=C run_tests asan

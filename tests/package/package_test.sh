@@ -109,7 +109,7 @@ readme() {
 
 example() {
     local name output
-    for name in "$source"/examples/*.cpp; do
+    for name in $(grep -l velor/smes.h "$source"/examples/*.cpp); do
         compile "$work/example" "$name" $(flags --cflags --libs)
         output=$(LD_LIBRARY_PATH=$(library_folder) run "$work/example")
         # The text that the example promises at its end.
@@ -125,6 +125,29 @@ command() {
     done
     run "$prefix/bin/velor-baze" rozloz "$prefix/share/velor/VELOR.DRC" "$work/tables"
     test -s "$work/tables/latky.csv"
+}
+
+# The package as a tree of files; installed it is by bare_root.sh.
+debian() {
+    local folder=$work/debian tree=$work/debian/tree file question=(--csv vlastnost TENS --latky voda -T 373.15)
+    rm -rf "$folder"
+    cpack --config "$build/CPackConfig.cmake" -B "$folder" >/dev/null
+    mv "$folder"/velor_*.deb "$folder/velor.deb"
+    lintian --fail-on error,warning "$folder/velor.deb" 2>&1
+    dpkg-deb -f "$folder/velor.deb" Depends | grep 'libc6 .*libstdc++6 '
+    dpkg -x "$folder/velor.deb" "$tree"
+    prefix=$tree/usr
+    for folder in "$(library_folder)" "$prefix/bin"; do
+        check_configuration "$folder/VELOR.CFG" /usr/share/velor/VELOR.DRC
+    done
+    for file in share/doc/velor/copyright share/bash-completion/completions/velor include/velor/smes.h; do
+        test -s "$prefix/$file"
+    done
+    [ "$(MANPATH=$prefix/share/man man -w velor velor-baze | wc -l)" = 2 ]
+    file=$prefix/share/velor/VELOR.DRC
+    diff <(run "$prefix/bin/velor" --baze "$file" "${question[@]}") <(run "$build/bin/velor" "${question[@]}")
+    compile "$work/debian/program" "$source/tests/package/consumer/consumer.cpp" $(flags --cflags --libs)
+    LD_LIBRARY_PATH=$(library_folder) run "$work/debian/program" "$file"
 }
 
 # Its VELOR.CFG leads nowhere: the question is asked, nobody says yes, and nothing is deleted.

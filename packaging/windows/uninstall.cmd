@@ -1,0 +1,2 @@
+@echo off
+"%~dp0install.cmd" /u %*
