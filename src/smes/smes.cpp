@@ -15,7 +15,6 @@ namespace velor {
 
 namespace {
 
-
 std::unique_ptr<State> newState(UserInterface& userInterface) {
     auto state = std::make_unique<State>();
     createForms(*state);

@@ -8,9 +8,9 @@
 #include <string>
 #include <string_view>
 
-#include "database/field_text.h"
 #include "correlations/equations.h"
 #include "correlations/pure_value.h"
+#include "database/field_text.h"
 #include "real_data.h"
 
 namespace velor {
