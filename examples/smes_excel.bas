@@ -15,13 +15,24 @@ Private Function Smes(ByVal Latky As Range, ByVal Podily As Range, ByRef X As Va
     Smes.DefSlozky cisla
     ' After DefSlozky, which switches the message boxes on: a sheet that recalculates wants errors in its cells.
     Smes.ChyboveHlasky = 1
+    If Smes.Inivlr <> Latky.Count Or Podily.Count <> Latky.Count Then Err.Raise 5
     Smes.Normal X
+End Function
+
+' What could not be computed is Empty or 0, which a cell must not show as a number.
+Private Function Bunka(ByVal Hodnota As Variant) As Variant
+    Bunka = Hodnota
+    If IsEmpty(Hodnota) Then
+        Bunka = CVErr(xlErrValue)
+    ElseIf Hodnota <= 0 Then
+        Bunka = CVErr(xlErrNum)
+    End If
 End Function
 
 Public Function HustotaSmesi(ByVal Latky As Range, ByVal Podily As Range, ByVal T As Double) As Variant
     Dim X As Variant
     On Error GoTo Chyba
-    HustotaSmesi = Smes(Latky, Podily, X).ROLW(T, X)
+    HustotaSmesi = Bunka(Smes(Latky, Podily, X).ROLW(T, X))
     Exit Function
 Chyba:
     HustotaSmesi = CVErr(xlErrValue)
@@ -30,7 +41,7 @@ End Function
 Public Function BodVaru(ByVal Latky As Range, ByVal Podily As Range, ByVal P As Double) As Variant
     Dim X As Variant
     On Error GoTo Chyba
-    BodVaru = Smes(Latky, Podily, X).TBV(P, X)
+    BodVaru = Bunka(Smes(Latky, Podily, X).TBV(P, X))
     Exit Function
 Chyba:
     BodVaru = CVErr(xlErrValue)

@@ -8,13 +8,15 @@ binaries=$root/build/mingw-x64
 # Each line that the program prints is the name of a form which stands on the screen until it is answered.
 take_pictures() {
     coproc program { "$wine" "$binaries/tests/windows/form_pictures.exe"; }
-    while read -r name <&"${program[0]}"; do
+    local shown=${program[0]} answers=${program[1]} pid=$program_PID
+    while read -r name <&"$shown"; do
         name=${name%$'\r'}
         [[ $name =~ ^[A-Za-z0-9_-]+$ ]] || { echo "$name" >&2; continue; } # a complaint
         import -window root -trim "$pictures/$name.png"
         echo "$pictures/$name.png"
-        echo >&"${program[1]}"
+        echo >&"$answers"
     done
+    wait "$pid"
 }
 
 if [ "${1:-}" = --on-screen ]; then

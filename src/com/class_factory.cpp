@@ -36,7 +36,8 @@ class ClassFactory final : public IClassFactory {
         return guardedResult([&] { return createSmes(interfaceId, object); });
     }
     STDMETHODIMP LockServer(BOOL lock) override {
-        lock ? lockModule() : unlockModule();
+        if (!lock) return unlockModule() ? S_OK : E_UNEXPECTED;
+        lockModule();
         return S_OK;
     }
 

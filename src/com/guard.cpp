@@ -6,6 +6,7 @@
 #include <cfenv>
 #include <new>
 #include <string>
+#include <string_view>
 
 #include "com/holders.h"
 #include "com/variant_conversion.h"
@@ -39,17 +40,19 @@ class DefaultFloatingPoint {
 };
 
 // Where even this fails the host still has the code.
-void setErrorInformation(const std::string& source, const std::string& description) {
+void setErrorInformation(std::string_view source, std::string_view description) noexcept try {
+    SetErrorInfo(0, nullptr);  // never that of an earlier failure
     ICreateErrorInfo* created = nullptr;
     if (FAILED(CreateErrorInfo(&created))) return;
     const ComPointer<ICreateErrorInfo> information(created);
     created->SetGUID(__uuidof(ISmes));
-    created->SetSource(toBstr(source).get());
-    created->SetDescription(toBstr(description).get());
+    created->SetSource(toBstr(std::string(source)).get());
+    created->SetDescription(toBstr(std::string(description)).get());
     IErrorInfo* error = nullptr;
     if (FAILED(created->QueryInterface(IID_IErrorInfo, reinterpret_cast<void**>(&error)))) return;
     const ComPointer<IErrorInfo> owned(error);
     SetErrorInfo(0, error);
+} catch (const std::bad_alloc&) {
 }
 
 HRESULT codeOf(std::int32_t number) {

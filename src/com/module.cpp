@@ -16,7 +16,7 @@ namespace {
 
 constexpr std::int32_t kErrorInLoadingDll = 48;
 
-std::atomic<long> references = 0;
+std::atomic<long> objects = 0, locks = 0;
 
 std::mutex typeInformationMutex;
 // Not owned by a holder: when the process ends, oleaut32 may be gone before this DLL.
@@ -35,15 +35,20 @@ ITypeInfo* loadTypeInformation() {
 
 }  // namespace
 
-void lockModule() { ++references; }
-void unlockModule() { --references; }
+void lockModule() { ++locks; }
 
-ModuleReference::ModuleReference() { lockModule(); }
-ModuleReference::~ModuleReference() { unlockModule(); }
+bool unlockModule() {
+    for (long held = locks; held > 0;)
+        if (locks.compare_exchange_weak(held, held - 1)) return true;
+    return false;
+}
+
+ModuleReference::ModuleReference() { ++objects; }
+ModuleReference::~ModuleReference() { --objects; }
 
 bool moduleIsIdle() {
     const std::lock_guard lock(typeInformationMutex);
-    if (references != 0) return false;
+    if (objects != 0 || locks != 0) return false;
     if (keptTypeInformation != nullptr) ComPointer<ITypeInfo>(std::exchange(keptTypeInformation, nullptr));
     return true;
 }

@@ -15,7 +15,8 @@ class ModuleReference {
 };
 
 void lockModule();
-void unlockModule();
+// False where there is no lock to take back.
+bool unlockModule();
 
 // Whether no object and no lock is left. If so, lets go of the type information.
 bool moduleIsIdle();

@@ -36,9 +36,47 @@ void check(HRESULT result) {
 
 Variant valueOf(const VARIANT& value, int nesting);
 
+std::size_t sizeOf(VARTYPE type) {
+    switch (type) {
+        case VT_I1:
+        case VT_UI1:
+            return 1;
+        case VT_I2:
+        case VT_UI2:
+        case VT_BOOL:
+            return 2;
+        case VT_I4:
+        case VT_UI4:
+        case VT_INT:
+        case VT_UINT:
+        case VT_R4:
+        case VT_ERROR:
+            return 4;
+        case VT_VARIANT:
+            return sizeof(VARIANT);
+        case VT_DECIMAL:
+            return sizeof(DECIMAL);
+        case VT_BSTR:
+        case VT_DISPATCH:
+            return sizeof(void*);
+        default:
+            return 8;
+    }
+}
+
+// Whether the elements are what the variant says: a host that puts its arrays together by hand may be wrong there.
+bool holds(SAFEARRAY* array, VARTYPE type) {
+    constexpr USHORT kKinds = FADF_BSTR | FADF_VARIANT | FADF_DISPATCH | FADF_UNKNOWN | FADF_RECORD;
+    const USHORT wanted = type == VT_BSTR       ? FADF_BSTR
+                          : type == VT_VARIANT  ? FADF_VARIANT
+                          : type == VT_DISPATCH ? FADF_DISPATCH
+                                                : 0;
+    return (array->fFeatures & kKinds) == wanted && SafeArrayGetElemsize(array) == sizeOf(type);
+}
+
 Variant arrayOf(SAFEARRAY* array, VARTYPE type, int nesting) {
     if (array == nullptr) return Variant::array(0, {});  // declared, but not yet sized
-    if (SafeArrayGetDim(array) != 1) raiseTypeMismatch();
+    if (SafeArrayGetDim(array) != 1 || !holds(array, type)) raiseTypeMismatch();
     LONG first = 0, last = 0;
     check(SafeArrayGetLBound(array, 1, &first));
     check(SafeArrayGetUBound(array, 1, &last));

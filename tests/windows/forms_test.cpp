@@ -125,7 +125,7 @@ TEST_F(NativeForms, componentIsShown) {
     together([&] { enterComposition(); },
              [&] {
                  const Window composition(kComposition);
-                 composition.mouse(SLOZ_L_J + 1, WM_LBUTTONDOWN);
+                 composition.clickName(SLOZ_L_J + 1, WM_LBUTTONDOWN, WM_LBUTTONUP);
                  const Window form(kDisplay);
                  EXPECT_FALSE(IsWindowEnabled(composition.get()));
                  EXPECT_EQ(GetWindow(form.get(), GW_OWNER), composition.get());
@@ -156,7 +156,7 @@ TEST_F(NativeForms, componentIsChangedForTheTime) {
     together([&] { enterComposition(); },
              [&] {
                  const Window composition(kComposition);
-                 composition.mouse(SLOZ_L_J, WM_RBUTTONDOWN);
+                 composition.clickName(SLOZ_L_J, WM_RBUTTONDOWN, WM_RBUTTONUP);
                  const Window names(kChange);
                  names.expectFocus(ZMENAZ_T_POLE);
                  names.type(ZMENAZ_T_POLE, "Živá voda");
@@ -199,7 +199,11 @@ TEST_F(NativeForms, listIsFoundAndClosed) {
              Case{"Esc", [](const Window& form) { form.press(SEZN_L_SEZN, VK_ESCAPE); }},
              Case{"Enter", [](const Window& form) { form.press(SEZN_L_SEZN, VK_RETURN); }},
              Case{"a character", [](const Window& form) { form.type(SEZN_L_SEZN, "x"); }},
-             Case{"a click", [](const Window& form) { PostMessageW(form.get(), WM_LBUTTONDOWN, 0, 0); }},
+             Case{"a click",
+                  [](const Window& form) {
+                      PostMessageW(form.get(), WM_LBUTTONDOWN, 0, 0);
+                      PostMessageW(form.get(), WM_LBUTTONUP, 0, 0);
+                  }},
              Case{"the cross", [](const Window& form) { form.close(); }},
          }) {
         SCOPED_TRACE(way.name);
@@ -223,14 +227,14 @@ TEST_F(NativeForms, everyOtherFormGoesBack) {
     struct Form {
         Look look;
         int focus, back;  // controls; 0 for no such button
-        UINT button;      // of the mouse, on the component's name
+        WPARAM key;       // in the component's value, in place of the mouse on its name
     };
     constexpr Form kForms[] = {
         {kChoice, SEZNAM_T_SMES, 0, 0},
         {kComposition, SLOZ_T_S, SLOZ_C_ZPET, 0},
-        {kDisplay, LATKA_L_VLAST, LATKA_C_ZPET, WM_LBUTTONDOWN},
-        {kChange, ZMENAZ_T_POLE, ZMENAZ_C_ZPET, WM_RBUTTONDOWN},
-        {kCorrection, OPRAV_T_POLE, OPRAV_C_ZPET, WM_RBUTTONDOWN},
+        {kDisplay, LATKA_L_VLAST, LATKA_C_ZPET, VK_F2},
+        {kChange, ZMENAZ_T_POLE, ZMENAZ_C_ZPET, VK_F3},
+        {kCorrection, OPRAV_T_POLE, OPRAV_C_ZPET, VK_F3},
     };
     for (const Form& form : kForms) {
         for (const char* way : {"Esc", "cross", "button"}) {
@@ -239,14 +243,14 @@ TEST_F(NativeForms, everyOtherFormGoesBack) {
             const bool isChoice = form.look.caption == kChoice.caption;
             together([&] { isChoice ? smes.ZadejSmes() : enterComposition(); },
                      [&] {
-                         if (form.button != 0) Window(kComposition).mouse(SLOZ_L_J, form.button);
+                         if (form.key != 0) Window(kComposition).press(SLOZ_T_S, form.key);
                          if (form.look.caption == kCorrection.caption) Window(kChange).click(ZMENAZ_C_DATA);
                          const Window window(form.look);
                          if (way[0] == 'E' || form.back == 0) window.press(form.focus, VK_ESCAPE);
                          if (way[0] == 'c') window.close();
                          if (way[0] == 'b' && form.back != 0) window.click(form.back);
                          window.expectGone();
-                         if (form.button != 0) Window(kComposition).close();
+                         if (form.key != 0) Window(kComposition).close();
                      });
             EXPECT_EQ(smes.Nsloz().toInt16(), isChoice ? 2 : 0);
         }
@@ -326,7 +330,7 @@ TEST_F(NativeForms, endOfTheHostIsBack) {
     const HostWindow host;
     together([&] { enterComposition(); },
              [&] {
-                 Window(kComposition).mouse(SLOZ_L_J, WM_RBUTTONDOWN);
+                 Window(kComposition).clickName(SLOZ_L_J, WM_RBUTTONDOWN, WM_RBUTTONUP);
                  const Window form(kChange);
                  form.type(ZMENAZ_T_POLE, "Ztraceno");
                  PostMessageW(host.get(), WM_CLOSE, 0, 0);

@@ -41,6 +41,10 @@ class Window {
 
     void click(int id) const { PostMessageW(control(id), BM_CLICK, 0, 0); }
     void mouse(int id, UINT message, LPARAM position = 0) const { PostMessageW(control(id), message, 0, position); }
+    void clickName(int id, UINT down, UINT up) const {
+        mouse(id, down);
+        mouse(id, up);
+    }
     void doubleClickLine(int id, int line) const;
     void press(int id, WPARAM key) const;                    // a key down and up; its character comes last
     void pressAlt(int id, wchar_t letter) const;             // an accelerator key

@@ -23,6 +23,7 @@ constexpr Anchor kAnchors[] = {
 constexpr FocusMap kFocus{Focus::Control::Value, SLOZ_T_S, F_Sloz::kBoxes, 0, SLOZ_C_OK};
 constexpr int kRowHeight = 14;  // dialog units, as in the layout
 constexpr int kRowsBesideHints = 13;
+constexpr int kLeftButton = 1, kRightButton = 2;
 
 class CompositionView : public FormWindow {
   public:
@@ -73,6 +74,11 @@ class CompositionView : public FormWindow {
     }
     void mousePressed(int id, int button) override {
         if (id >= SLOZ_L_J && id <= kLastName) form_.mouseOnName(id - SLOZ_L_J, button);
+    }
+
+    // From the keyboard they stand for the mouse on the name of the component whose value has the focus.
+    void functionKeyPressed(int id, WPARAM key) override {
+        if (takesEnter(id)) form_.mouseOnName(id - SLOZ_T_S, key == VK_F2 ? kLeftButton : kRightButton);
     }
 
     F_Sloz& form_;

@@ -3,6 +3,7 @@
 #include <commctrl.h>
 
 #include <cstring>
+#include <utility>
 
 #include "com/forms/controls.h"
 #include "platform/windows/library_file.h"
@@ -54,6 +55,21 @@ int pressedButton(UINT message) {
     }
 }
 
+// The same of the button that is let go.
+int releasedButton(UINT message) {
+    switch (message) {
+        case WM_LBUTTONUP:
+            return 1;
+        case WM_RBUTTONUP:
+            return 2;
+        case WM_MBUTTONUP:
+        case WM_XBUTTONUP:
+            return 3;
+        default:
+            return 0;
+    }
+}
+
 }  // namespace
 
 void FormWindow::show(HWND owner) {
@@ -96,27 +112,35 @@ INT_PTR CALLBACK FormWindow::formProcedure(HWND window, UINT message, WPARAM wPa
 
 void FormWindow::open(HWND window) {
     window_ = window;
-    dpi_ = leastDpi_ = resolutionOf(window);
-    layout_ = Layout(window, dpi_, anchors_);
     perform([this] {
+        dpi_ = resolutionOf(window_);
+        layout_ = Layout(window_, dpi_, anchors_);
         isDisplaying_ = true;
         fill();
     });
     if (!IsChild(window, GetFocus())) setFocus(GetDlgCtrlID(GetNextDlgTabItem(window, nullptr, FALSE)));
+    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
+        watch(child);
+    centre(window, owner_);
+    layout_.arrange(window, dpi_);
     RECT outer;
     GetWindowRect(window, &outer);
     least_ = {outer.right - outer.left, outer.bottom - outer.top};
-    centre(window, owner_);
-    for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
-        watch(child);
+    leastDpi_ = dpi_;  // the screen may have another one than that where the window was made
     if (owner_ == nullptr) SetForegroundWindow(window);
 }
 
+// What a click does waits until the button is let go: a form that opened earlier would get that in the box that happens
+// to lie below the pointer.
+bool FormWindow::handleMouse(HWND target, int id, UINT message) {
+    if (pressedButton(message) != 0) pressed_ = target;
+    const int button = releasedButton(message);
+    if (button != 0 && std::exchange(pressed_, nullptr) == target) perform([&] { mousePressed(id, button); });
+    return button != 0 || pressedButton(message) != 0;
+}
+
 bool FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
-    if (const int button = pressedButton(message)) {
-        perform([&] { mousePressed(0, button); });
-        return true;
-    }
+    if (handleMouse(window_, 0, message)) return true;
     switch (message) {
         case WM_COMMAND:
             if (LOWORD(wParam) == IDCANCEL) {
@@ -134,7 +158,7 @@ bool FormWindow::handle(UINT message, WPARAM wParam, LPARAM lParam) {
                 MulDiv(least_.cy, static_cast<int>(dpi_), static_cast<int>(leastDpi_))};
             return true;
         case WM_DPICHANGED:
-            changeResolution(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam));
+            perform([&] { changeResolution(LOWORD(wParam), *reinterpret_cast<const RECT*>(lParam)); });
             return true;
         case WM_DESTROY:
             EndDialog(window_, 0);  // the owner may have gone, which leaves the modal loop running
@@ -151,7 +175,7 @@ void FormWindow::notified(int id, int notification, HWND control) {
     if (isClass(control, WC_EDITW) && notification == EN_CHANGE) {
         perform([&] { textChanged(id, textOf(control)); });
     } else if (isClass(control, WC_LISTBOXW) && notification == LBN_SELCHANGE) {
-        perform([&] { lineSelected(id, selectionOf(control)); });
+        if (const int line = selectionOf(control); line != LB_ERR) perform([&] { lineSelected(id, line); });
     } else if (isClass(control, WC_LISTBOXW) && notification == LBN_DBLCLK) {
         perform([&] { doubleClicked(id); });
     } else if (isClass(control, WC_BUTTONW) && notification == BN_CLICKED) {
@@ -162,8 +186,8 @@ void FormWindow::notified(int id, int notification, HWND control) {
 void FormWindow::watch(HWND control) {
     // Otherwise walking through the form by keys would choose an option.
     if (isClass(control, WC_BUTTONW)) SendMessageW(control, BM_SETDONTCLICK, TRUE, 0);
-    const LONG_PTR own = SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&controlProcedure));
-    ownProcedures_[control] = reinterpret_cast<WNDPROC>(own);
+    ownProcedures_[control] = reinterpret_cast<WNDPROC>(GetWindowLongPtrW(control, GWLP_WNDPROC));
+    SetWindowLongPtrW(control, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&controlProcedure));
 }
 
 LRESULT CALLBACK FormWindow::controlProcedure(HWND control, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -180,11 +204,8 @@ LRESULT CALLBACK FormWindow::controlProcedure(HWND control, UINT message, WPARAM
 
 bool FormWindow::handleInControl(HWND control, UINT message, WPARAM wParam) {
     const int id = GetDlgCtrlID(control);
+    if (isClass(control, WC_STATICW) && handleMouse(control, id, message)) return true;
     if (const int button = pressedButton(message)) {
-        if (isClass(control, WC_STATICW)) {
-            perform([&] { mousePressed(id, button); });
-            return true;
-        }
         // The first click into a box selects its text as every other way to it does; only the next one sets the caret.
         const bool entersBox = button == 1 && isClass(control, WC_EDITW) && GetFocus() != control;
         if (entersBox) setFocus(id);
@@ -195,6 +216,7 @@ bool FormWindow::handleInControl(HWND control, UINT message, WPARAM wParam) {
             focused(id);
             return false;
         case WM_KEYDOWN:
+            if (wParam == VK_F2 || wParam == VK_F3) perform([&] { functionKeyPressed(id, wParam); });
             if (wParam != VK_RETURN || !takesEnter(id)) return false;
             perform([&] { keyPressed(id, kEnterKey); });
             return true;
@@ -247,6 +269,11 @@ void FormWindow::changeResolution(unsigned dpi, const RECT& proposed) {
         LOGFONTW font = fontOf(child);
         font.lfHeight = MulDiv(font.lfHeight, static_cast<int>(dpi), static_cast<int>(dpi_));
         useFont(child, font);
+        if (isClass(child, WC_LISTBOXW)) {
+            const auto width = static_cast<int>(SendMessageW(child, LB_GETHORIZONTALEXTENT, 0, 0));
+            SendMessageW(child, LB_SETHORIZONTALEXTENT,
+                         static_cast<WPARAM>(MulDiv(width, static_cast<int>(dpi), static_cast<int>(dpi_))), 0);
+        }
     }
     dpi_ = dpi;
     SetWindowPos(window_, nullptr, proposed.left, proposed.top, proposed.right - proposed.left,

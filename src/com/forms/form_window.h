@@ -51,6 +51,7 @@ class FormWindow {
     virtual void keyPressed(int, int /*character*/) {}
     virtual void keyReleased(int) {}
     virtual void mousePressed(int, int /*button*/) {}
+    virtual void functionKeyPressed(int, WPARAM /*key*/) {}
     // Whether Enter belongs to that control rather than to the default button.
     virtual bool takesEnter(int) const { return false; }
 
@@ -69,6 +70,7 @@ class FormWindow {
     template <class Action>
     void perform(const Action& action);
     bool handle(UINT message, WPARAM wParam, LPARAM lParam);
+    bool handleMouse(HWND target, int id, UINT message);
     void open(HWND window);
     void refresh();
     void notified(int id, int notification, HWND control);
@@ -84,6 +86,7 @@ class FormWindow {
     HWND owner_ = nullptr;
     HWND window_ = nullptr;
     bool isDisplaying_ = false;  // notifications come from ourselves
+    HWND pressed_ = nullptr;     // where a mouse button went down
     std::exception_ptr failure_;
     std::map<HWND, WNDPROC> ownProcedures_;
     Layout layout_;

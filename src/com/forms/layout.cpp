@@ -6,6 +6,8 @@ namespace velor::forms {
 
 namespace {
 
+constexpr LONG kMargin = 7;  // of every layout, in dialog units
+
 unsigned stretchOf(int id, std::span<const Anchor> anchors) {
     for (const Anchor& anchor : anchors)
         if (id >= anchor.first && id <= anchor.last) return anchor.stretch;
@@ -30,6 +32,13 @@ RECT rectangleIn(HWND window, HWND control) {
 Layout::Layout(HWND window, unsigned dpi, std::span<const Anchor> anchors) : client_(clientSize(window)), dpi_(dpi) {
     for (HWND child = GetWindow(window, GW_CHILD); child != nullptr; child = GetWindow(child, GW_HWNDNEXT))
         places_.push_back({child, rectangleIn(window, child), stretchOf(GetDlgCtrlID(child), anchors)});
+    // On a small screen the window was cut already, and the controls stand where they do not fit.
+    RECT margin{0, 0, kMargin, kMargin};
+    MapDialogRect(window, &margin);
+    for (const Place& place : places_) {
+        client_.cx = std::max(client_.cx, place.rectangle.right + margin.right);
+        client_.cy = std::max(client_.cy, place.rectangle.bottom + margin.bottom);
+    }
 }
 
 int Layout::scaled(LONG length, unsigned dpi) const {

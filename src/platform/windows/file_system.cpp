@@ -189,10 +189,12 @@ std::string fileName(const std::string& path) {
 }
 
 void deleteFile(const std::string& path) {
+    const QuietDrives quiet;
     if (!DeleteFileW(widePath(path).c_str())) raiseFileError(GetLastError());
 }
 
 void replaceFile(const std::string& path, std::string_view content) {
+    const QuietDrives quiet;
     const std::wstring name = widePath(path);
     auto [file, temporary] = createTemporary(name);
     try {

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <cstring>
+#include <exception>
+#include <new>
 #include <vector>
 
 #include "platform/windows/library_file.h"
@@ -67,36 +69,38 @@ class Template {
     std::vector<WORD> words_;
 };
 
+// Texts are converted outside the window's procedure, which no exception may leave.
 struct Dialog {
-    const InputRequest& request;
-    std::string answer;
+    std::wstring title, prompt, text;
+    std::exception_ptr failure;
 };
 
-void fill(HWND window, const InputRequest& request) {
-    SetWindowTextW(window, toWide(request.title).c_str());
-    SetDlgItemTextW(window, kPrompt, toWide(request.prompt).c_str());
-    SetDlgItemTextW(window, kText, toWide(request.defaultAnswer).c_str());
+void fill(HWND window, const Dialog& dialog) {
+    SetWindowTextW(window, dialog.title.c_str());
+    SetDlgItemTextW(window, kPrompt, dialog.prompt.c_str());
+    SetDlgItemTextW(window, kText, dialog.text.c_str());
     SendDlgItemMessageW(window, kText, EM_SETSEL, 0, -1);
 }
 
-std::string typedText(HWND window) {
+void takeTypedText(HWND window, Dialog& dialog) noexcept try {
     const HWND box = GetDlgItem(window, kText);
-    std::wstring text(static_cast<std::size_t>(GetWindowTextLengthW(box)) + 1, L'\0');
-    text.resize(static_cast<std::size_t>(GetWindowTextW(box, text.data(), static_cast<int>(text.size()))));
-    return fromWide(text);
+    dialog.text.resize(static_cast<std::size_t>(GetWindowTextLengthW(box)) + 1);
+    const int length = GetWindowTextW(box, dialog.text.data(), static_cast<int>(dialog.text.size()));
+    dialog.text.resize(static_cast<std::size_t>(length));
+} catch (const std::bad_alloc&) {
+    dialog.failure = std::current_exception();
 }
 
 INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_INITDIALOG) {
         SetWindowLongPtrW(window, DWLP_USER, lParam);
-        fill(window, reinterpret_cast<const Dialog*>(lParam)->request);
+        fill(window, *reinterpret_cast<const Dialog*>(lParam));
         SetForegroundWindow(window);
         SetFocus(GetDlgItem(window, kText));
         return FALSE;  // the focus is set
     }
     if (message != WM_COMMAND || (LOWORD(wParam) != IDOK && LOWORD(wParam) != IDCANCEL)) return FALSE;
-    if (LOWORD(wParam) == IDOK)
-        reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, DWLP_USER))->answer = typedText(window);
+    if (LOWORD(wParam) == IDOK) takeTypedText(window, *reinterpret_cast<Dialog*>(GetWindowLongPtrW(window, DWLP_USER)));
     EndDialog(window, LOWORD(wParam));
     return TRUE;
 }
@@ -105,11 +109,12 @@ INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 
 std::string showInputBox(HWND owner, const InputRequest& request) {
     const Template layout;
-    Dialog dialog{request, {}};
+    Dialog dialog{toWide(request.title), toWide(request.prompt), toWide(request.defaultAnswer), {}};
     const INT_PTR pressed =
         DialogBoxIndirectParamW(libraryModule(), layout.get(), owner, procedure, reinterpret_cast<LPARAM>(&dialog));
     if (pressed != IDOK && pressed != IDCANCEL) checked::raise(RunTimeError::kInputPastEnd);
-    return dialog.answer;
+    if (dialog.failure) std::rethrow_exception(dialog.failure);
+    return pressed == IDOK ? fromWide(dialog.text) : std::string();
 }
 
 }  // namespace velor::platform
