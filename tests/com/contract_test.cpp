@@ -40,6 +40,22 @@ Members membersOf(ISmes& smes) {
     return members;
 }
 
+unsigned mxcsr() { return __builtin_ia32_stmxcsr() & ~0x3FU; }  // without the sticky flags
+
+// A host that wants to be stopped by an invalid operation, a division by zero and an overflow of its own.
+class UnmaskedTraps {
+  public:
+    UnmaskedTraps() { __builtin_ia32_ldmxcsr(kUnmasked); }
+    ~UnmaskedTraps() { __builtin_ia32_ldmxcsr(before_); }
+    UnmaskedTraps(const UnmaskedTraps&) = delete;
+    UnmaskedTraps& operator=(const UnmaskedTraps&) = delete;
+
+    static constexpr unsigned kUnmasked = 0x1900;  // denormal, underflow and inexact results stay masked
+
+  private:
+    unsigned before_ = __builtin_ia32_stmxcsr();
+};
+
 TEST(Identity, isOneObjectWithItsInterfacesAndNoOuterOne) {
     const Apartment apartment;
     const auto smes = createSmes();
@@ -135,16 +151,17 @@ TEST(WrongTypes, areRefusedEverywhere) {
         for (const Variant& value : nonsense) {
             const auto victim = createSmes();
             define(*victim, std::array{235, 1});
-            LateCall(*victim, name, std::vector(static_cast<std::size_t>(std::max(count, 0)), value),
-                     static_cast<WORD>(puts ? DISPATCH_PROPERTYPUT : DISPATCH_METHOD | DISPATCH_PROPERTYGET));
+            const std::vector arguments(static_cast<std::size_t>(std::max(count, 0)), value);
+            const auto kind = static_cast<WORD>(puts ? DISPATCH_PROPERTYPUT : DISPATCH_METHOD | DISPATCH_PROPERTYGET);
+            const UnmaskedTraps traps;
+            LateCall(*victim, name, arguments, kind);
+            EXPECT_EQ(mxcsr(), UnmaskedTraps::kUnmasked) << platform::fromWide(name);
         }
         OwnVariant number;
         EXPECT_EQ(smes->Log10(Passed(100.0), number.get()), S_OK) << platform::fromWide(name);
         EXPECT_EQ(number->dblVal, 2.0);
     }
 }
-
-unsigned mxcsr() { return __builtin_ia32_stmxcsr() & ~0x3FU; }  // without the sticky flags
 
 unsigned short x87Control() {
     unsigned short word = 0;
