@@ -12,7 +12,6 @@ class Canvas {
     // The rows shown begin with firstRow; what lies above and below the area is cut.
     Canvas(Screen& screen, Area area, int firstRow = 0) : screen_(screen), area_(area), firstRow_(firstRow) {}
 
-    int columns() const { return area_.columns; }
     // Text from the column on, at most width columns of it; filled up with blanks where the style shows.
     void write(int row, int column, int width, std::string_view text, Style style = Style::Plain);
     void fill(int row, int column, int width, Style style);

@@ -21,7 +21,8 @@ namespace {
 // Only the characters of the thread are UTF-8 meanwhile: numbers, dates and other threads stay as they are.
 class Utf8Characters {
   public:
-    Utf8Characters() : own_(newlocale(LC_CTYPE_MASK, "C.UTF-8", nullptr)), before_(uselocale(own_)) {}
+    Utf8Characters()
+        : own_(newlocale(LC_CTYPE_MASK, "C.UTF-8", duplocale(LC_GLOBAL_LOCALE))), before_(uselocale(own_)) {}
     ~Utf8Characters() {
         uselocale(before_);
         if (own_) freelocale(own_);
