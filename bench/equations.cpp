@@ -1,5 +1,5 @@
 // The 19 equations below the public interface.
-#include "correlations/equations.h"
+#include "rules/equations.h"
 
 #include <string>
 

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <vector>
 
-#include "correlations/pure_value.h"
 #include "floor_equation.h"
+#include "properties/pure_value.h"
 
 namespace velor::bench {
 

@@ -3,9 +3,9 @@
 #include <string>
 
 #include "comparison.h"
-#include "correlations/pure_value.h"
 #include "floor_equation.h"
 #include "mixture.h"
+#include "properties/pure_value.h"
 
 namespace velor::bench {
 

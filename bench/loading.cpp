@@ -3,8 +3,8 @@
 #include <cstdio>
 
 #include "comparison.h"
-#include "database/record_layout.h"
 #include "mixture.h"
+#include "records/record_layout.h"
 
 namespace velor::bench {
 

@@ -5,7 +5,7 @@
 #include <iostream>
 #include <span>
 
-#include "database/record_file.h"
+#include "records/record_file.h"
 
 namespace velor::bench {
 

@@ -4,9 +4,9 @@
 #include <string>
 
 #include "comparison.h"
-#include "correlations/pure_value.h"
 #include "gas_floor.h"
 #include "mixture.h"
+#include "properties/pure_value.h"
 
 namespace velor::bench {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-#include "correlations/pure_value.h"
+#include "properties/pure_value.h"
 
 namespace velor::bench {
 

@@ -1,5 +1,5 @@
 // A composition typed as one line.
-#include "equilibrium/typed_composition.h"
+#include "dialogs/typed_composition.h"
 #include "target.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,5 +1,5 @@
 // The bytes as VELOR.CFG. Nobody answers, so every question gets No and nothing is deleted.
-#include "database/configuration_file.h"
+#include "object/configuration_file.h"
 #include "runtime/text.h"
 #include "target.h"
 #include "temporary_file.h"

@@ -1,7 +1,7 @@
 // The bytes as a database that is taken apart into text and put together again.
 #include "baze/compile.h"
 #include "baze/decompile.h"
-#include "database/record_layout.h"
+#include "records/record_layout.h"
 #include "target.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

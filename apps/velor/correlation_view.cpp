@@ -1,7 +1,7 @@
 #include "correlation_view.h"
 
-#include "correlations/pure_property.h"
 #include "number_text.h"
+#include "properties/pure_property.h"
 #include "runtime/text.h"
 #include "standing_notes.h"
 

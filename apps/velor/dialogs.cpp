@@ -3,7 +3,7 @@
 #include <cstdio>
 #include <iostream>
 
-#include "terminal/terminal_user_interface.h"
+#include "views/terminal/terminal_user_interface.h"
 
 namespace velor::app {
 

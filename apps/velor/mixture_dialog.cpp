@@ -3,6 +3,7 @@
 #include "failure.h"
 #include "forwarding_user_interface.h"
 #include "run_time_error_text.h"
+#include "velor/forms.h"
 
 namespace velor::app {
 

@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "correlations/pure_property.h"
+#include "properties/pure_property.h"
 #include "run_time_error_text.h"
 
 namespace velor::app {

@@ -3,9 +3,9 @@
 
 #include <string>
 
-#include "correlations/standing.h"
 #include "mixture.h"
 #include "mixture_property.h"
+#include "properties/standing.h"
 
 namespace velor::app {
 

@@ -1,7 +1,7 @@
 #include "commands.h"
 #include "correlation_view.h"
-#include "correlations/pure_property.h"
 #include "failure.h"
+#include "properties/pure_property.h"
 #include "standing_notes.h"
 #include "substance_finder.h"
 

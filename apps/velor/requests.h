@@ -6,9 +6,9 @@
 #include <variant>
 #include <vector>
 
-#include "correlations/pure_property.h"
 #include "mixture_property.h"
 #include "printer.h"
+#include "properties/pure_property.h"
 
 namespace velor::app {
 

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "correlations/standing.h"
+#include "properties/standing.h"
 #include "report.h"
 
 namespace velor::app {

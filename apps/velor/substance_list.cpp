@@ -6,7 +6,7 @@
 #include <limits>
 #include <string_view>
 
-#include "database/record_file.h"
+#include "records/record_file.h"
 #include "runtime/text.h"
 #include "runtime/windows_1250.h"
 

@@ -1,6 +1,6 @@
 #include "substance_view.h"
 
-#include "database/constant_table.h"
+#include "records/constant_table.h"
 
 namespace velor::app {
 

@@ -4,11 +4,11 @@
 #pragma once
 
 #include <array>
-#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
 
+#include "velor/chosen_numbers.h"
 #include "velor/form_controls.h"
 
 namespace velor {
@@ -38,7 +38,6 @@ class F_Seznam {
   public:
     static constexpr int kBoxes = 20;
     static constexpr std::string_view kFont = "Courier New";
-    using CislaLatek = std::array<std::int16_t, kBoxes + 1>;  // element 0 the count, then the numbers
 
     std::string caption = " SEZNAM LÁTEK - definice složek směsi";
     std::string Nadpis_1, Nadpis_2;  // headings

@@ -14,9 +14,8 @@
 #include <string>
 #include <vector>
 
-#include "velor/component_forms.h"
+#include "velor/chosen_numbers.h"
 #include "velor/flash_record.h"
-#include "velor/forms.h"
 #include "velor/run_time_error.h"
 #include "velor/user_interface.h"
 #include "velor/variant.h"
@@ -401,7 +400,7 @@ class Smes {
 
     // Handlers of the forms' events.
     void mSeznam_zavrit();
-    void mZadSmes_SZavrit(const F_Seznam::CislaLatek& CislaLatek);
+    void mZadSmes_SZavrit(const CislaLatek& numbers);
     void mSloz_ZavriSloz();
     void mSloz_ZpetSloz();
     // Open the display of component i (1..count, else error 9) and the temporary change of its data. The records are
@@ -421,6 +420,9 @@ class Smes {
     Variant Vlastnost(const std::string& Name, const Variant& X, const Variant& T, const Variant& P);
 
   private:
+    // With boxes that the object owns.
+    explicit Smes(std::unique_ptr<UserInterface> userInterface);
+
     std::unique_ptr<State> state_;
 };
 

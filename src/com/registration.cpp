@@ -9,7 +9,7 @@
 
 #include "com/holders.h"
 #include "com/velor_com.h"
-#include "database/configuration_file.h"
+#include "object/configuration_file.h"
 #include "platform/file_system.h"
 #include "platform/system.h"
 #include "platform/windows/library_file.h"

@@ -35,7 +35,7 @@ void writeNazev(Smes& smes, int i, const Variant& name) { smes.Nazev(i, name.toT
 
 // The numbers 0..20 of an array that counts from 0; those that it lacks are 0.
 void confirmComponents(Smes& smes, const Variant& numbers) {
-    F_Seznam::CislaLatek chosen{};
+    CislaLatek chosen{};
     for (int i = numbers.lowerBound(); i <= numbers.upperBound(); ++i) {
         if (i < 0 || i >= static_cast<int>(chosen.size())) checked::raise(RunTimeError::kSubscript);
         chosen[static_cast<std::size_t>(i)] = numbers.at(i).toInt16();

@@ -2,17 +2,18 @@
 #include <string>
 #include <utility>
 
-#include "correlations/equations.h"
-#include "correlations/pure_property.h"
-#include "database/field_text.h"
-#include "database/load.h"
 #include "dialogs/boxes.h"
 #include "dialogs/component_texts.h"
+#include "dialogs/forms_of.h"
 #include "dialogs/typed_temperature.h"
+#include "object/load.h"
+#include "object/messages.h"
+#include "object/state.h"
+#include "properties/pure_property.h"
+#include "records/field_text.h"
+#include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "smes/messages.h"
-#include "smes/state.h"
 #include "velor/smes.h"
 
 namespace velor {
@@ -22,7 +23,7 @@ namespace {
 // Whether component i is loaded; what is missing from the database has been told.
 bool isAtHand(State& state, int i) {
     const int count = loadComponents(state);
-    if (count == 0 && state.PocSlozek > 0) return false;
+    if (count == 0 && state.definition.PocSlozek > 0) return false;
     if (i < 1 || i > count) checked::raise(RunTimeError::kSubscript);
     return true;
 }
@@ -34,7 +35,7 @@ std::string trimmed(const std::array<char, Width>& field) {
 }
 
 std::string captionOf(const State& state, int i, const std::string& what) {
-    return " " + what + " složky č. " + std::to_string(i) + ": " + trimmed(state.slots.Latka(i).Nazev);
+    return " " + what + " složky č. " + std::to_string(i) + ": " + trimmed(state.definition.slots.Latka(i).Nazev);
 }
 
 // Property k of component i with its unit and what has to be known about it, or why there is none.
@@ -57,7 +58,7 @@ class BorrowedBlock {
     BorrowedBlock& operator=(const BorrowedBlock&) = delete;
 
   private:
-    TKorelace& place() { return state_.slots.change(i_).Korelace[k_]; }
+    TKorelace& place() { return state_.definition.slots.change(i_).Korelace[k_]; }
 
     State& state_;
     int i_;
@@ -66,12 +67,12 @@ class BorrowedBlock {
 };
 
 void fill(frmLatka& form, const State& state, int i) {
-    const TLatka& record = state.slots.Latka(i);
+    const TLatka& record = state.definition.slots.Latka(i);
     form.caption = captionOf(state, i, "Zobrazení");
     form.Nazev = trimmed(record.Nazev);
     form.Synonym = trimmed(record.Synonym);
     form.Vzorec = trimmed(record.Vzorec);
-    form.CAS = record.CAS > 0 ? "[" + casText(record.CAS) + "]" : std::string();
+    form.CAS = record.CAS > 0 ? "[" + registryText(record.CAS) + "]" : std::string();
     form.Konstanty = constantTexts(record);
     form.Korelace = correlationTexts(record);
     form.L_Vlast.items = propertyLines();
@@ -83,34 +84,34 @@ void fill(frmLatka& form, const State& state, int i) {
 void Smes::mSloz_ZobrazL(int i) {
     State& state = *state_;
     if (!isAtHand(state, checkedInt16(i))) return;
-    frmLatka& form = *state.displayForm;
+    frmLatka& form = *formsOf(state).display;
     fill(form, state, i);
-    form.showExclamation = [&state](const std::string& text) { show(state, text, Icon::Exclamation); };
+    form.showExclamation = [&state](const std::string& text) { show(state.messages, text, Icon::Exclamation); };
     form.zavrit = [&form] { form.visible = false; };
     form.Vypocet = [this, &form, i](int k, double T) { form.Hodnota = valueText(*this, T, i, k); };
     form.selectProperty(0);
     form.visible = true;
-    state.userInterface->showForm(form);
+    state.messages.userInterface->showForm(form);
 }
 
 void Smes::mSloz_ZobrazZ(int i) {
     State& state = *state_;
     if (!isAtHand(state, checkedInt16(i))) return;
-    const auto exclaim = [&state](const std::string& text) { show(state, text, Icon::Exclamation); };
+    const auto exclaim = [&state](const std::string& text) { show(state.messages, text, Icon::Exclamation); };
     const auto use = [&state, i](const TLatka& record) {
-        state.slots.change(i) = record;
-        boxAt(state.compositionForm->L_J, i - 1) = componentName(state, i);
+        state.definition.slots.change(i) = record;
+        boxAt(formsOf(state).composition->L_J, i - 1) = componentName(state, i);
     };
-    F_Zmenaz& names = *state.changeForm;
+    F_Zmenaz& names = *formsOf(state).change;
     names.caption = captionOf(state, i, "Dočasná změna");
     names.showExclamation = exclaim;
     names.Ulozit = use;
-    names.load(state.slots.Latka(i));
+    names.load(state.definition.slots.Latka(i));
     names.visible = true;
-    state.userInterface->showForm(names);
+    state.messages.userInterface->showForm(names);
     if (!names.isDataWanted) return;
 
-    frmOprav& data = *state.correctionForm;
+    frmOprav& data = *formsOf(state).correction;
     data.caption = captionOf(state, i, "Dočasná změna vlastností");
     data.showExclamation = exclaim;
     data.Ulozit = use;
@@ -118,9 +119,9 @@ void Smes::mSloz_ZobrazZ(int i) {
         const BorrowedBlock borrowed(*state_, i, k, block);
         return valueText(*this, T, i, k);
     };
-    data.load(state.slots.Latka(i));
+    data.load(state.definition.slots.Latka(i));
     data.visible = true;
-    state.userInterface->showForm(data);
+    state.messages.userInterface->showForm(data);
 }
 
 }  // namespace velor

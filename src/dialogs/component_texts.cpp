@@ -2,11 +2,11 @@
 
 #include <cmath>
 
-#include "correlations/equations.h"
-#include "correlations/pure_property.h"
-#include "correlations/pure_value.h"
-#include "database/constant_table.h"
-#include "database/record_layout.h"
+#include "properties/pure_property.h"
+#include "properties/pure_value.h"
+#include "records/constant_table.h"
+#include "records/record_layout.h"
+#include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 

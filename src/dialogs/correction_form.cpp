@@ -1,10 +1,10 @@
 // How the temporary change of a component's correlations behaves.
-#include "correlations/equations.h"
-#include "correlations/pure_value.h"
 #include "dialogs/boxes.h"
 #include "dialogs/component_texts.h"
 #include "dialogs/typed_fields.h"
 #include "dialogs/typed_temperature.h"
+#include "properties/pure_value.h"
+#include "rules/equations.h"
 #include "runtime/text.h"
 #include "velor/component_forms.h"
 

@@ -1,14 +1,13 @@
-// The dialogs' lifetime, and the substance list's methods.
-#include <memory>
+// The methods of the substance list.
 #include <string>
 
+#include "dialogs/forms_of.h"
 #include "dialogs/quick_sort.h"
 #include "dialogs/substance_list.h"
+#include "object/messages.h"
 #include "platform/system.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
-#include "smes/messages.h"
-#include "velor/forms.h"
 #include "velor/smes.h"
 
 namespace velor {
@@ -30,22 +29,22 @@ std::string withoutAsterisk(const std::string& text) {
 }
 
 std::vector<std::string> linesInOrder(State& state) {
-    if (state.PocLatek > kMostShownLines) checked::raise(RunTimeError::kSubscript);
-    std::vector<std::string> lines = state.SeznamLatek;
-    if (state.RezimSeznamu >= kSearch) return lines;
-    const std::string answer = state.userInterface->askText(
+    if (state.list.PocLatek > kMostShownLines) checked::raise(RunTimeError::kSubscript);
+    std::vector<std::string> lines = state.list.SeznamLatek;
+    if (state.list.RezimSeznamu >= kSearch) return lines;
+    const std::string answer = state.messages.userInterface->askText(
         {"0 - podle abecedy" + std::string(kLineBreak) + "1 - podle čísel (chvíli trvá ...)", "VELOR", "0"});
-    if (answer == "1") sortLines(state.randomState, lines);
-    if (answer == "2") state.RezimSeznamu = kSearch;
+    if (answer == "1") sortLines(state.list.randomState, lines);
+    if (answer == "2") state.list.RezimSeznamu = kSearch;
     return lines;
 }
 
 // Fills the form's list; the count of the lines found, the line that tells a failure included.
 int fillWithHits(State& state, const std::vector<std::string>& lines) {
     const std::string answer =
-        state.userInterface->askText({"Vložte název nebo část názvu hledané látky (bez *, %):", "VELOR", ""});
+        state.messages.userInterface->askText({"Vložte název nebo část názvu hledané látky (bez *, %):", "VELOR", ""});
     const std::string wanted = withoutAsterisk(upperCase(answer));
-    std::vector<std::string>& items = state.listForm->L_Sezn.items;
+    std::vector<std::string>& items = formsOf(state).list->L_Sezn.items;
     for (const std::string& line : lines)
         if (upperCase(line).find(wanted) != std::string::npos) items.push_back(line);
     if (items.empty()) items.push_back("Látka  " + wanted + "  nenalezena!!!");
@@ -54,70 +53,50 @@ int fillWithHits(State& state, const std::vector<std::string>& lines) {
 
 }  // namespace
 
-void createListForm(State& state) { state.listForm = std::make_unique<F_Sezn>(); }
-
-void createForms(State& state) {
-    createListForm(state);
-    state.componentsForm = std::make_unique<F_Seznam>();
-    state.compositionForm = std::make_unique<F_Sloz>();
-    state.displayForm = std::make_unique<frmLatka>();
-    state.changeForm = std::make_unique<F_Zmenaz>();
-    state.correctionForm = std::make_unique<frmOprav>();
-}
-
-void releaseForms(State& state) {
-    state.listForm.reset();
-    state.componentsForm.reset();
-    state.compositionForm.reset();
-    state.displayForm.reset();
-    state.changeForm.reset();
-    state.correctionForm.reset();
-}
-
 void Smes::AkSeznam() { rebuildSubstanceList(*state_); }
 
 std::string Smes::SeznamLatek(int i) const {
-    if (i < 1 || i > state_->PocLatek) checked::raise(RunTimeError::kSubscript);
-    return state_->SeznamLatek[static_cast<std::size_t>(i - 1)];
+    if (i < 1 || i > state_->list.PocLatek) checked::raise(RunTimeError::kSubscript);
+    return state_->list.SeznamLatek[static_cast<std::size_t>(i - 1)];
 }
 
-int Smes::PocLatek() const { return state_->PocLatek; }
-int Smes::RezimSeznamu() const { return state_->RezimSeznamu; }
+int Smes::PocLatek() const { return state_->list.PocLatek; }
+int Smes::RezimSeznamu() const { return state_->list.RezimSeznamu; }
 
 void Smes::SeznamShow(const Variant& mode) {
     State& state = *state_;
-    state.RezimSeznamu = mode.isMissing() ? std::int16_t{-1} : mode.toInt16();
-    if (state.SeznamLatek.empty()) rebuildSubstanceList(state);
+    state.list.RezimSeznamu = mode.isMissing() ? std::int16_t{-1} : mode.toInt16();
+    if (state.list.SeznamLatek.empty()) rebuildSubstanceList(state);
     const std::vector<std::string> lines = linesInOrder(state);
-    F_Sezn& form = *state.listForm;
+    F_Sezn& form = *formsOf(state).list;
     form.L_Sezn = {};
     int counter = 1;
-    if (state.RezimSeznamu == kSearch) {
+    if (state.list.RezimSeznamu == kSearch) {
         counter = fillWithHits(state, lines);
-    } else if (state.RezimSeznamu < kSearch) {
+    } else if (state.list.RezimSeznamu < kSearch) {
         form.L_Sezn.items = lines;
     }
     form.Nadpis_1 = "SEZNAM LÁTEK DATABÁZE  V E L O R   " + platform::shortDate();
-    form.Nadpis_2 = "Počet zahrnutých látek  " + Format(state.PocLatek, "#0");
+    form.Nadpis_2 = "Počet zahrnutých látek  " + Format(state.list.PocLatek, "#0");
     if (!form.L_Sezn.items.empty()) form.L_Sezn.selected = 0;
-    if (state.RezimSeznamu == kSearch) form.Nadpis_2 = "k zadání nalezeno " + std::to_string(counter) + " látek";
+    if (state.list.RezimSeznamu == kSearch) form.Nadpis_2 = "k zadání nalezeno " + std::to_string(counter) + " látek";
     form.zavrit = [this] { mSeznam_zavrit(); };
     form.visible = true;
-    state.userInterface->showForm(form);
+    state.messages.userInterface->showForm(form);
 }
 
-void Smes::mSeznam_zavrit() { state_->listForm->visible = false; }
+void Smes::mSeznam_zavrit() { formsOf(*state_).list->visible = false; }
 
 void Smes::QuickSort(Variant& arr, int first, int last) {
     if (checkedInt16(first) >= checkedInt16(last)) return;
     std::vector<std::string> lines;
     for (int i = first; i <= last; ++i) lines.push_back(arr.at(i).toText());
-    sortLines(state_->randomState, lines);
+    sortLines(state_->list.randomState, lines);
     for (int i = first; i <= last; ++i) arr.at(i) = lines[static_cast<std::size_t>(i - first)];
 }
 
 int Smes::RandInt(int lower, int upper) {
-    return checkedInt16(randomBetween(state_->randomState, checkedInt16(lower), checkedInt16(upper)));
+    return checkedInt16(randomBetween(state_->list.randomState, checkedInt16(lower), checkedInt16(upper)));
 }
 
 void Smes::SWAP(Variant& arr, int a, int b) { std::swap(arr.at(a), arr.at(b)); }

@@ -4,13 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "database/load.h"
+#include "dialogs/forms_of.h"
 #include "dialogs/substance_list.h"
-#include "mixture/composition_rules.h"
+#include "object/load.h"
+#include "object/messages.h"
+#include "object/state.h"
+#include "rules/composition.h"
 #include "runtime/numbers.h"
-#include "smes/messages.h"
-#include "smes/state.h"
-#include "velor/forms.h"
 #include "velor/smes.h"
 #include "velor/version.h"
 
@@ -46,22 +46,22 @@ std::string prefilled(int choice, int i, const Variant& X, const Variant& W) {
 bool prepareForm(State& state, F_Sloz& form, const Variant& X, const Variant& W, const Variant& mode) {
     form.L_J.fill("");
     for (TextBox& box : form.T_S) box = {"", true, false};
-    form.components = state.PocSlozek;
+    form.components = state.definition.PocSlozek;
     form.focus = {Focus::Control::Value, 0};  // the last one may lie behind the components now
     bool acceptable = true;
-    for (int i = 1; i <= state.PocSlozek; ++i) {
+    for (int i = 1; i <= state.definition.PocSlozek; ++i) {
         const std::size_t box = ComponentSlots::index(i);
         if (!mode.isMissing()) form.T_S[box].text = prefilled(std::abs(static_cast<int>(mode.toInt16())) - 1, i, X, W);
         form.L_J[box] = componentName(state, i);
         form.T_S[box].enabled = true;
-        if (state.slots.Latka(i).Cislo == 0) acceptable = false;
+        if (state.definition.slots.Latka(i).Cislo == 0) acceptable = false;
     }
     return acceptable;
 }
 
 std::vector<double> readValues(const State& state, const F_Sloz& form) {
     std::vector<double> values;
-    for (int i = 1; i <= state.PocSlozek; ++i) {
+    for (int i = 1; i <= state.definition.PocSlozek; ++i) {
         values.push_back(Smes::Hodnota(form.T_S[ComponentSlots::index(i)].text).toDouble());
         if (values.back() < 0.0) raiseToHost("ZadejSloz", std::to_string(i) + ". složení je záporné!");
     }
@@ -75,7 +75,7 @@ struct Converted {
 // The fractions in both kinds, divided by their own sums.
 Converted convert(const State& state, const std::vector<double>& values, bool molar) {
     std::vector<double> M;
-    for (int i = 1; i <= state.PocSlozek; ++i) M.push_back(state.slots.Latka(i).Mv);
+    for (int i = 1; i <= state.definition.PocSlozek; ++i) M.push_back(state.definition.slots.Latka(i).Mv);
     Converted both{values, values};
     std::vector<double>& other = molar ? both.mass : both.mole;
     double sum = 0.0;
@@ -100,55 +100,55 @@ void copyTo(Variant& array, const std::vector<double>& fractions) {
 
 void Smes::ZadejSmes() {
     State& state = *state_;
-    state.Nacteno = 0;
-    if (state.SeznamLatek.empty()) rebuildSubstanceList(state);
-    F_Seznam& form = *state.componentsForm;
-    form.L_Seznam = {state.SeznamLatek, state.SeznamLatek.empty() ? -1 : 0};
+    state.definition.Nacteno = 0;
+    if (state.list.SeznamLatek.empty()) rebuildSubstanceList(state);
+    F_Seznam& form = *formsOf(state).components;
+    form.L_Seznam = {state.list.SeznamLatek, state.list.SeznamLatek.empty() ? -1 : 0};
     form.caption = " SEZNAM LÁTEK - definice složek směsi" + std::string(kBlanksBeforeVersion, ' ') + versionText();
     form.Nadpis_1 = "SEZNAM LÁTEK DATABÁZE  V E L O R";
-    form.Nadpis_2 = "Počet látek je " + Format(state.PocLatek, "#0");
-    form.lblDatafile = state.AdresaBaze;
-    form.SZavrit = [this](const F_Seznam::CislaLatek& numbers) { mZadSmes_SZavrit(numbers); };
-    form.showExclamation = [&state](const std::string& text) { show(state, text, Icon::Exclamation); };
+    form.Nadpis_2 = "Počet látek je " + Format(state.list.PocLatek, "#0");
+    form.lblDatafile = state.place.AdresaBaze;
+    form.SZavrit = [this](const CislaLatek& numbers) { mZadSmes_SZavrit(numbers); };
+    form.showExclamation = [&state](const std::string& text) { show(state.messages, text, Icon::Exclamation); };
     form.visible = true;
-    state.userInterface->showForm(form);
+    state.messages.userInterface->showForm(form);
 }
 
-void Smes::mZadSmes_SZavrit(const F_Seznam::CislaLatek& CislaLatek) {
+void Smes::mZadSmes_SZavrit(const CislaLatek& numbers) {
     State& state = *state_;
-    state.componentsForm->visible = false;
-    const std::int16_t n = CislaLatek[0];
-    state.PocSlozek = n;
-    for (int i = 1; i <= n; ++i) state.slots.setCisloLatky(i, CislaLatek[ComponentSlots::index(i) + 1]);
-    if (n < ComponentSlots::kCount) state.slots.setCisloLatky(n + 1, 0);
-    if (loadComponents(state) == 0 && state.ChyboveHlasky < 2)
-        show(state, "Nemohu načíst z " + state.DataFileName + "!", Icon::Critical);
+    formsOf(state).components->visible = false;
+    const std::int16_t n = numbers[0];
+    state.definition.PocSlozek = n;
+    for (int i = 1; i <= n; ++i) state.definition.slots.setCisloLatky(i, numbers[ComponentSlots::index(i) + 1]);
+    if (n < ComponentSlots::kCount) state.definition.slots.setCisloLatky(n + 1, 0);
+    if (loadComponents(state) == 0 && state.messages.ChyboveHlasky < 2)
+        show(state.messages, "Nemohu načíst z " + state.place.DataFileName + "!", Icon::Critical);
 }
 
 void Smes::ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant&, const Variant& mode) {
     State& state = *state_;
-    F_Sloz& form = *state.compositionForm;
+    F_Sloz& form = *formsOf(state).composition;
     for (;;) {
-        n = state.PocSlozek;
+        n = state.definition.PocSlozek;
         const bool acceptable = prepareForm(state, form, X, W, mode);
         form.ZavriSloz = [this] { mSloz_ZavriSloz(); };
         form.ZpetSloz = [this] { mSloz_ZpetSloz(); };
         form.ZobrazL = [this](int component) { mSloz_ZobrazL(component); };
         form.ZobrazZ = [this](int component) { mSloz_ZobrazZ(component); };
         form.visible = true;
-        state.userInterface->showForm(form);
-        if (state.PocSlozek == kBackMarker) {
-            state.PocSlozek = 0;
+        state.messages.userInterface->showForm(form);
+        if (state.definition.PocSlozek == kBackMarker) {
+            state.definition.PocSlozek = 0;
             return;
         }
         std::vector<double> values = readValues(state, form);
         const double sum = sumOf(values);
-        if (std::abs(sum) < kNoSum && state.ChyboveHlasky < 2) {
-            show(state, "Je třeba zadat složení směsi!", Icon::Critical);
+        if (std::abs(sum) < kNoSum && state.messages.ChyboveHlasky < 2) {
+            show(state.messages, "Je třeba zadat složení směsi!", Icon::Critical);
             continue;
         }
         if (!acceptable) {
-            show(state, "Některá ze složek není v bázi (0), opravte neznámou složku,\revent. náhradní složku!",
+            show(state.messages, "Některá ze složek není v bázi (0), opravte neznámou složku,\revent. náhradní složku!",
                  Icon::Critical);
             ZadejSmes();
             continue;
@@ -156,24 +156,24 @@ void Smes::ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant&, const V
         if (std::abs(sum - 1.0) > kSumTolerance && values.size() > 1)
             for (double& value : values) value = checked::divide(value, sum);
         const Converted fractions = convert(state, values, form.O_Mol);
-        keep(state.enteredFractions, values);
-        keep(state.moleFractions, fractions.mole);
-        keep(state.massFractions, fractions.mass);
+        keep(state.last.enteredFractions, values);
+        keep(state.last.moleFractions, fractions.mole);
+        keep(state.last.massFractions, fractions.mass);
         copyTo(X, fractions.mole);
         copyTo(W, fractions.mass);
         return;
     }
 }
 
-void Smes::mSloz_ZavriSloz() { state_->compositionForm->visible = false; }
+void Smes::mSloz_ZavriSloz() { formsOf(*state_).composition->visible = false; }
 
 void Smes::mSloz_ZpetSloz() {
-    state_->PocSlozek = kBackMarker;
-    state_->compositionForm->visible = false;
+    state_->definition.PocSlozek = kBackMarker;
+    formsOf(*state_).composition->visible = false;
 }
 
-Variant Smes::ZadaneSlozeni(int i) const { return state_->enteredFractions.at(checkedInt16(i)); }
-Variant Smes::MolZlomky(int i) const { return state_->moleFractions.at(checkedInt16(i)); }
-Variant Smes::HmotZlomky(int i) const { return state_->massFractions.at(checkedInt16(i)); }
+Variant Smes::ZadaneSlozeni(int i) const { return state_->last.enteredFractions.at(checkedInt16(i)); }
+Variant Smes::MolZlomky(int i) const { return state_->last.moleFractions.at(checkedInt16(i)); }
+Variant Smes::HmotZlomky(int i) const { return state_->last.massFractions.at(checkedInt16(i)); }
 
 }  // namespace velor

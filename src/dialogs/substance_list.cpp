@@ -6,15 +6,15 @@
 #include <string_view>
 #include <utility>
 
-#include "database/locate.h"
-#include "database/record_file.h"
 #include "dialogs/quick_sort.h"
+#include "object/locate.h"
+#include "object/messages.h"
 #include "platform/file_system.h"
 #include "platform/system.h"
+#include "records/record_file.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "runtime/windows_1250.h"
-#include "smes/messages.h"
 
 namespace velor {
 
@@ -35,19 +35,16 @@ std::string firstCharacters(const std::array<char, Width>& field, std::size_t co
     return decodeWindows1250({field.data(), count});
 }
 
-std::string casText(std::int32_t number) {
+std::string bracketedCas(std::int32_t number) {
     const std::string digits = std::to_string(number);
     if (number <= 0 || digits.size() < 2) return " ";
-    if (digits.size() < 3) checked::raise(RunTimeError::kInvalidCall);  // a negative length
-    const std::size_t front = digits.size() - 3;
-    const std::string text = "[" + digits.substr(0, front) + "-" + digits.substr(front, 2) + "-" + digits.back() + "]";
-    return text.substr(0, kMostCasCharacters);
+    return ("[" + casText(digits) + "]").substr(0, kMostCasCharacters);
 }
 
 // A line as it is sorted: with the record number at its end.
 std::string sortedLine(const TLatka& record, int number) {
     return "  " + firstCharacters(record.Nazev, 20) + " " + firstCharacters(record.Synonym, 20) + " " +
-           firstCharacters(record.Vzorec, 10) + casText(record.CAS) + " " + Format(number, "000");
+           firstCharacters(record.Vzorec, 10) + bracketedCas(record.CAS) + " " + Format(number, "000");
 }
 
 // Only the last three characters move: the first digit of a number of four stays at the end, as built.
@@ -71,12 +68,12 @@ struct KeyedLine {
 };
 
 std::vector<std::string> readLines(State& state) {
-    const RecordFile database(state.AdresaBaze);
+    const RecordFile database(state.place.AdresaBaze);
     std::vector<std::string> lines;
     const int count = database.count();
     for (int number = 1; number <= count; ++number) {
         // The buffer of component 1 is used and left with the last record read, deliberately.
-        const TLatka& record = state.slots.change(1) = database.read(number);
+        const TLatka& record = state.definition.slots.change(1) = database.read(number);
         if (!isSubstance(record)) continue;
         if (lines.size() == kMostLines) checked::raise(RunTimeError::kSubscript);
         lines.push_back(sortedLine(record, number));
@@ -92,26 +89,26 @@ struct NamePosition {
 };
 
 NamePosition positionOfFileName(const State& state) {
-    const std::string name = upperCase(state.DataFileName);
+    const std::string name = upperCase(state.place.DataFileName);
     std::size_t character = 1;
-    for (std::string_view rest = state.AdresaBaze; !rest.empty(); takeCodePoint(rest), ++character)
-        if (upperCase(rest).starts_with(name)) return {character, state.AdresaBaze.size() - rest.size()};
+    for (std::string_view rest = state.place.AdresaBaze; !rest.empty(); takeCodePoint(rest), ++character)
+        if (upperCase(rest).starts_with(name)) return {character, state.place.AdresaBaze.size() - rest.size()};
     return {};
 }
 
 std::string listing(const State& state) {
     const std::string end(kLineBreak);
     std::string text = "          SEZNAM LÁTEK DATABÁZE VELOR ke dni " + platform::shortDate() + end +
-                       "          Záznamy v bázi o " + Format(state.PocLatek, "#0") + " látkách" + end;
-    for (const std::string& line : state.SeznamLatek) text += line + end;
+                       "          Záznamy v bázi o " + Format(state.list.PocLatek, "#0") + " látkách" + end;
+    for (const std::string& line : state.list.SeznamLatek) text += line + end;
     return encodeWindows1250OrQuestionMarks(text);
 }
 
 void writeListing(State& state) {
     const NamePosition name = positionOfFileName(state);
-    if (name.character < kLeastNamePosition) show(state, "VELOR - chyba v cestě k souboru", Icon::None);
+    if (name.character < kLeastNamePosition) show(state.messages, "VELOR - chyba v cestě k souboru", Icon::None);
     if (name.character == 0) checked::raise(RunTimeError::kInvalidCall);  // a negative length
-    platform::replaceFile(state.AdresaBaze.substr(0, name.byte) + "SEZNAM.DAT", listing(state));
+    platform::replaceFile(state.place.AdresaBaze.substr(0, name.byte) + "SEZNAM.DAT", listing(state));
 }
 
 }  // namespace
@@ -128,13 +125,13 @@ void sortLines(std::uint32_t& randomState, std::vector<std::string>& lines) {
 }
 
 void rebuildSubstanceList(State& state) {
-    if (state.AdresaBaze.empty()) locateDatabase(state);
-    if (state.AdresaBaze.empty()) return;
+    if (state.place.AdresaBaze.empty()) locateDatabase(state);
+    if (state.place.AdresaBaze.empty()) return;
     std::vector<std::string> lines = readLines(state);
-    sortLines(state.randomState, lines);
+    sortLines(state.list.randomState, lines);
     std::transform(lines.begin(), lines.end(), lines.begin(), numberToFront);
-    state.SeznamLatek = std::move(lines);
-    state.PocLatek = static_cast<std::int16_t>(state.SeznamLatek.size());
+    state.list.SeznamLatek = std::move(lines);
+    state.list.PocLatek = static_cast<std::int16_t>(state.list.SeznamLatek.size());
     writeListing(state);
 }
 

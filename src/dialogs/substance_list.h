@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "smes/state.h"
+#include "object/state.h"
 
 namespace velor {
 

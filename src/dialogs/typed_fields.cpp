@@ -5,11 +5,11 @@
 #include <cmath>
 #include <optional>
 
-#include "correlations/equations.h"
-#include "database/constant_table.h"
-#include "database/field_text.h"
-#include "database/record_layout.h"
 #include "dialogs/typed_temperature.h"
+#include "records/constant_table.h"
+#include "records/field_text.h"
+#include "records/record_layout.h"
+#include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "velor/run_time_error.h"
@@ -138,7 +138,7 @@ std::string fieldText(const TLatka& record, int field) {
         case F_Zmenaz::kVzorec:
             return bytesText({record.Vzorec.data(), record.Vzorec.size()});
         case F_Zmenaz::kCAS:
-            return record.CAS == 0 ? std::string() : casText(record.CAS);
+            return record.CAS == 0 ? std::string() : registryText(record.CAS);
         default:
             break;
     }

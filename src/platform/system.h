@@ -1,12 +1,9 @@
 // What the operating system knows beside files.
 #pragma once
 
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "velor/user_interface.h"
 
 namespace velor::platform {
 
@@ -24,8 +21,5 @@ std::string shortDate();
 // character that it lacks becomes a similar one or "?".
 std::string toSystemText(std::string_view text);
 std::string fromSystemText(std::string_view text);
-
-// Boxes for a host that brings no user interface of its own.
-std::unique_ptr<UserInterface> defaultUserInterface();
 
 }  // namespace velor::platform

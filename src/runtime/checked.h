@@ -8,6 +8,8 @@
 
 namespace velor::checked {
 
+inline constexpr double kLn10 = 2.302585092994046;
+
 [[noreturn]] void raise(RunTimeError::Number number);
 
 inline double finite(double value) {
@@ -30,10 +32,7 @@ inline double naturalLogarithm(double value) {
     return std::log(finite(value));
 }
 
-inline double decimalLogarithm(double value) {
-    constexpr double kLn10 = 2.302585092994046;
-    return naturalLogarithm(value) / kLn10;
-}
+inline double decimalLogarithm(double value) { return naturalLogarithm(value) / kLn10; }
 
 inline double squareRoot(double value) {
     if (!(value >= 0.0)) [[unlikely]]

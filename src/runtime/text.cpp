@@ -1,5 +1,7 @@
 #include "runtime/text.h"
 
+#include "runtime/checked.h"
+
 namespace velor {
 
 namespace {
@@ -89,6 +91,13 @@ std::string upperCase(std::string_view text) {
 }
 
 bool equalIgnoringCase(std::string_view one, std::string_view other) { return upperCase(one) == upperCase(other); }
+
+std::string casText(std::string_view digits) {
+    if (digits.size() < 3) checked::raise(RunTimeError::kInvalidCall);  // a negative length
+    const std::size_t front = digits.size() - 3;
+    std::string text(digits.substr(0, front));
+    return text.append("-").append(digits, front, 2).append("-").append(1, digits.back());
+}
 
 bool matchesPattern(std::string_view text, std::string_view pattern) {
     // After a "*" the match is tried from ever later characters; only the last "*" has to be remembered.

@@ -6,6 +6,8 @@
 
 namespace velor {
 
+inline constexpr const char* kLineBreak = "\r\n";  // in every text of the library
+
 // Without the blanks (only blanks, no other white space) at both ends.
 std::string_view trimBlanks(std::string_view text);
 
@@ -24,6 +26,9 @@ std::string upperCase(std::string_view text);
 
 // Equal without regard to letter case.
 bool equalIgnoringCase(std::string_view one, std::string_view other);
+
+// A registry number of substances as on paper: "64175" gives "64-17-5". Error 5: fewer than three digits.
+std::string casText(std::string_view digits);
 
 // Whether the whole text matches a pattern in which "*" stands for any characters and "?" for one.
 bool matchesPattern(std::string_view text, std::string_view pattern);

@@ -1,4 +1,4 @@
-#include "correlations/equations.h"
+#include "rules/equations.h"
 
 #include <gtest/gtest.h>
 

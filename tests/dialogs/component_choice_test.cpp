@@ -1,5 +1,6 @@
 // Choosing a mixture's components: the form alone, and ZadejSmes around it.
 #include "support/sample_test.h"
+#include "velor/forms.h"
 
 namespace velor::test {
 namespace {
@@ -9,7 +10,7 @@ using Control = Focus::Control;
 struct ChoiceForm : ::testing::Test {
     F_Seznam form;
     std::vector<std::string> exclamations;
-    std::vector<F_Seznam::CislaLatek> confirmed;
+    std::vector<CislaLatek> confirmed;
 
     ChoiceForm() {
         form.showExclamation = [this](const std::string& text) { exclamations.push_back(text); };
@@ -97,7 +98,7 @@ TEST_F(ChoiceForm, confirmsWhatWasEntered) {
     enter(1);
     form.setText(0, " 12x");
     form.clickC_OK();
-    EXPECT_EQ(confirmed, (std::vector{F_Seznam::CislaLatek{2, 12, 32767}}));
+    EXPECT_EQ(confirmed, (std::vector{CislaLatek{2, 12, 32767}}));
     form.setText(1, "32768");
     EXPECT_EQ(errorNumber([&] { form.clickC_OK(); }), 6);
 }
@@ -128,7 +129,7 @@ TEST_F(Choice, tellsWhatItCannotLoad) {
         EXPECT_EQ(messages, mode < 2 ? (std::vector{unknown, notLoaded}) : std::vector{unknown});
         EXPECT_EQ(smes.Nsloz().toInt16(), 3);  // the slots are set all the same
     }
-    F_Seznam::CislaLatek numbers{21};  // from a host
+    CislaLatek numbers{21};  // from a host
     EXPECT_EQ(errorNumber([&] { smes.mZadSmes_SZavrit(numbers); }), 9);
 }
 

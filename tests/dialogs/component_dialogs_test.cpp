@@ -3,8 +3,10 @@
 
 #include <cmath>
 
-#include "database/record_layout.h"
+#include "records/record_layout.h"
 #include "support/sample_mixture.h"
+#include "velor/component_forms.h"
+#include "velor/forms.h"
 
 namespace velor::test {
 namespace {

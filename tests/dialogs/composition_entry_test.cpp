@@ -1,5 +1,6 @@
 // Entering a mixture's composition.
 #include "support/sample_test.h"
+#include "velor/forms.h"
 
 namespace velor::test {
 namespace {

@@ -3,6 +3,7 @@
 
 #include "platform/system.h"
 #include "support/sample_mixture.h"
+#include "velor/forms.h"
 
 namespace velor::test {
 namespace {

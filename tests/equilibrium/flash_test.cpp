@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <numeric>
 
-#include "equilibrium/typed_composition.h"
+#include "dialogs/typed_composition.h"
 #include "support/real_mixture.h"
 #include "support/sample_test.h"
 

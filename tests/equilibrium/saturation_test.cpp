@@ -1,6 +1,6 @@
 // Bubble and dew points: of every substance of the database, and the iteration's own rules on vapour pressures simple
 // enough to follow it by hand. No case here may run without its limit of steps unless it is known to converge.
-#include "database/record_file.h"
+#include "records/record_file.h"
 #include "support/sample_test.h"
 
 namespace velor::test {

@@ -1,5 +1,6 @@
 // The gas at low pressure: the rules by themselves, and the methods around them.
-#include "mixture/gas_rules.h"
+#include "rules/gas.h"
+
 #include "support/sample_test.h"
 
 namespace velor::test {

@@ -1,11 +1,11 @@
 // The equation of state below the mixture object, the ideal gas's integrals, and the solver at the edges of its domain.
-#include "realgas/equation_of_state.h"
+#include "rules/equation_of_state.h"
 
 #include <algorithm>
 #include <functional>
 
-#include "correlations/pure_value.h"
-#include "realgas/ideal_gas.h"
+#include "properties/pure_value.h"
+#include "rules/ideal_gas.h"
 #include "support/sample_test.h"
 
 namespace velor::test {

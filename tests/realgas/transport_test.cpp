@@ -1,7 +1,7 @@
 // Viscosity and conductivity of the gas under pressure: the excess rules by themselves, and the methods around them.
 #include <limits>
 
-#include "realgas/dense_gas_rules.h"
+#include "rules/dense_gas.h"
 #include "support/sample_test.h"
 
 namespace velor::test {

@@ -5,7 +5,7 @@
 #include <map>
 #include <vector>
 
-#include "database/record_file.h"
+#include "records/record_file.h"
 #include "velor/smes.h"
 
 namespace velor::test {

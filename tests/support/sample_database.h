@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "database/record_layout.h"
+#include "records/record_layout.h"
 #include "runtime/windows_1250.h"
 
 namespace velor::test {

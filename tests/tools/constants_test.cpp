@@ -8,10 +8,10 @@
 #include <string>
 #include <string_view>
 
-#include "correlations/equations.h"
-#include "correlations/pure_value.h"
-#include "database/field_text.h"
+#include "properties/pure_value.h"
 #include "real_data.h"
+#include "records/field_text.h"
+#include "rules/equations.h"
 
 namespace velor {
 namespace {
@@ -48,7 +48,7 @@ double vapourPressure(const TLatka& record, double T) {
 TEST(Constants, registryNumbersAreValidAndDifferent) {
     std::set<std::int32_t> seen;
     for (const auto& [number, record] : test::realRecords()) {
-        const std::string text = casText(record.CAS);
+        const std::string text = registryText(record.CAS);
         EXPECT_TRUE(hasCasForm(text) && hasCasCheckDigit(text) && seen.insert(record.CAS).second)
             << test::label(record) << ' ' << text;
     }

@@ -6,7 +6,7 @@
 #include <string>
 #include <variant>
 
-#include "database/record_layout.h"
+#include "records/record_layout.h"
 #include "support/temporary_folder.h"
 
 namespace velor {

@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <string>
 
-#include "database/configuration_file.h"
+#include "object/configuration_file.h"
 #include "support/temporary_folder.h"
 
 namespace velor {

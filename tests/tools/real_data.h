@@ -6,7 +6,7 @@
 #include <map>
 #include <string>
 
-#include "database/record_file.h"
+#include "records/record_file.h"
 
 namespace velor::test {
 

@@ -7,9 +7,9 @@
 #include <set>
 #include <vector>
 
-#include "correlations/equations.h"
-#include "correlations/pure_value.h"
+#include "properties/pure_value.h"
 #include "real_data.h"
+#include "rules/equations.h"
 
 namespace velor {
 namespace {

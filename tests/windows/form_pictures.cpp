@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "com/forms/form_ids.h"
 #include "velor/smes.h"
+#include "views/windows/form_ids.h"
 #include "windows/user.h"
 
 namespace velor::test {

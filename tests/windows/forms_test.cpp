@@ -6,11 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "com/forms/form_ids.h"
 #include "runtime/text.h"
 #include "velor/component_forms.h"
 #include "velor/run_time_error.h"
 #include "velor/smes.h"
+#include "views/windows/form_ids.h"
 #include "windows/user.h"
 
 namespace velor::test {

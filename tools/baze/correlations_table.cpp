@@ -10,9 +10,9 @@
 
 #include "baze/csv_table.h"
 #include "baze/row_reader.h"
-#include "correlations/equations.h"
-#include "correlations/pure_value.h"
-#include "database/field_text.h"
+#include "properties/pure_value.h"
+#include "records/field_text.h"
+#include "rules/equations.h"
 
 namespace velor::baze {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "database/field_text.h"
+#include "records/field_text.h"
 
 namespace velor::baze {
 

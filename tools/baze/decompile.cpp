@@ -9,7 +9,7 @@
 
 #include "baze/correlations_table.h"
 #include "baze/substances_table.h"
-#include "database/record_layout.h"
+#include "records/record_layout.h"
 
 namespace velor::baze {
 

@@ -10,7 +10,7 @@
 
 #include "baze/compile.h"
 #include "baze/decompile.h"
-#include "database/configuration_file.h"
+#include "object/configuration_file.h"
 #include "platform/file_system.h"
 #include "velor/run_time_error.h"
 

@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "database/field_text.h"
+#include "records/field_text.h"
 
 namespace velor::baze {
 

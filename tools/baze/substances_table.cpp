@@ -9,8 +9,8 @@
 
 #include "baze/csv_table.h"
 #include "baze/row_reader.h"
-#include "database/field_text.h"
-#include "database/record_layout.h"
+#include "records/field_text.h"
+#include "records/record_layout.h"
 #include "runtime/text.h"
 
 namespace velor::baze {
@@ -144,7 +144,7 @@ std::string cellOf(const RecordField& field, const float& value) {
 
 std::string cellOf(const RecordField&, std::int16_t value) { return value == 0 ? "" : std::to_string(value); }
 
-std::string cellOf(const RecordField&, std::int32_t cas) { return cas == 0 ? "" : casText(cas); }
+std::string cellOf(const RecordField&, std::int32_t cas) { return cas == 0 ? "" : registryText(cas); }
 
 template <std::size_t Width>
 std::string cellOf(const RecordField&, const std::array<char, Width>& text) {

@@ -102,8 +102,4 @@ std::string shortDate() {
 std::string toSystemText(std::string_view text) { return std::string(text); }
 std::string fromSystemText(std::string_view text) { return std::string(text); }
 
-std::unique_ptr<UserInterface> defaultUserInterface() {
-    return std::make_unique<StreamUserInterface>(std::cin, std::cerr);
-}
-
 }  // namespace velor::platform

@@ -4,7 +4,6 @@
 
 #include "platform/file_system.h"
 #include "platform/windows/library_file.h"
-#include "platform/windows/user_interface.h"
 #include "platform/windows/wide_text.h"
 
 namespace velor::platform {
@@ -50,7 +49,5 @@ std::string shortDate() {
                     nullptr);
     return fromWide(text);
 }
-
-std::unique_ptr<UserInterface> defaultUserInterface() { return std::make_unique<WindowsUserInterface>(); }
 
 }  // namespace velor::platform

@@ -1,0 +1,137 @@
+// The constants of one component.
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string_view>
+
+#include "object/load.h"
+#include "object/state.h"
+#include "runtime/checked.h"
+#include "runtime/numbers.h"
+#include "runtime/physical_constants.h"
+#include "runtime/text.h"
+#include "runtime/windows_1250.h"
+#include "velor/smes.h"
+
+namespace velor {
+
+namespace {
+
+const TLatka& recordOf(const State& state, int i) { return state.definition.slots.Latka(checkedInt16(i)); }
+
+bool slotIsEmpty(const State& state, int i) { return state.definition.slots.CisloLatky(checkedInt16(i)) < 1; }
+
+float constantOf(const State& state, int i, float TLatka::*constant) {
+    const float value = recordOf(state, i).*constant;
+    checked::finite(value);
+    return value;
+}
+
+Variant constantOrEmptyText(const State& state, int i, float TLatka::*constant) {
+    if (slotIsEmpty(state, i)) return "";
+    return constantOf(state, i, constant);
+}
+
+Variant celsiusOrEmptyText(const State& state, int i, float TLatka::*temperature) {
+    if (slotIsEmpty(state, i)) return "";
+    return constantOf(state, i, temperature) - kZeroCelsius;
+}
+
+template <std::size_t Width>
+Variant textOrEmpty(const State& state, int i, std::array<char, Width> TLatka::*text) {
+    if (slotIsEmpty(state, i)) return "";
+    const auto& field = recordOf(state, i).*text;
+    return decodeWindows1250({field.data(), field.size()});
+}
+
+constexpr std::array<std::string_view, 34> kPropertyCaptions{
+    "Viskozita (g)",
+    "Viskozita (rg)",
+    "Mol.specifické teplo Cp(g)",
+    "Specifické teplo Cp(g)",
+    "Mol.specifické teplo Cp(rg)",
+    "Specifické teplo Cp(rg)",
+    "Tepelná vodivost (g)",
+    "Tepelná vodivost (rg)",
+    "Hustota (g)",
+    "Hustota (rg)",
+    "Hustota (l)",
+    "Mol.specifické teplo Cp(l)",
+    "Specifické teplo Cp(l)",
+    "Viskozita (l)",
+    "Tepelná vodivost (l)",
+    "Mol.výparné teplo (l)",
+    "Výparné teplo (l)",
+    "Povrchové napětí (l)",
+    "Tenze par",
+    "Teplota bodu varu (l)",
+    "Teplota rosného bodu (g)",
+    "Mol.vnitřní energie (rg)",
+    "Vnitřní energie (rg)",
+    "Mol.entalpie (rg)",
+    "Entalpie (rg)",
+    "Mol.entalpie (l)",
+    "Entalpie (l)",
+    "Mol.entropie (rg)",
+    "Entropie (rg)",
+    "Mol.spec.teplo Cv (rg)",
+    "Spec.teplo Cv (rg)",
+    "Adiabatický koeficient (rg)",
+    "Ln-fugacit.koef. (rg)",
+    "Joule-Thompsnův koef. (rg)",  // spelt so, as built
+};
+
+}  // namespace
+
+Variant Smes::Mvi(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Mv); }
+Variant Smes::Tkri(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Tkr); }
+Variant Smes::TkriC(int i) const { return celsiusOrEmptyText(*state_, i, &TLatka::Tkr); }
+Variant Smes::Pkri(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Pkr); }
+Variant Smes::Vkri(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Vkr); }
+Variant Smes::Acenti(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Acent); }
+Variant Smes::Tnbvi(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Tnbv); }
+Variant Smes::TnbviC(int i) const { return celsiusOrEmptyText(*state_, i, &TLatka::Tnbv); }
+Variant Smes::Ttani(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Ttani); }
+Variant Smes::TtaniC(int i) const {
+    Variant celsius = celsiusOrEmptyText(*state_, i, &TLatka::Ttani);
+    // The single nearest to 273.15 is not 273.15.
+    if (celsius.kind() == Variant::Kind::Double && std::abs(celsius.toDouble()) < 1E-5) return 0.0;
+    return celsius;
+}
+Variant Smes::Htani(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Htani); }
+Variant Smes::Nlomui(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Nlomu); }
+Variant Smes::TNlomui(int i) const { return constantOf(*state_, i, &TLatka::TNlomu); }
+float Smes::Dipolm(int i) const { return constantOf(*state_, i, &TLatka::Dipol); }
+Variant Smes::TDipolm(int i) const { return constantOf(*state_, i, &TLatka::TDipol); }
+Variant Smes::Permiti(int i) const { return constantOf(*state_, i, &TLatka::Permit); }
+Variant Smes::TPermiti(int i) const { return constantOf(*state_, i, &TLatka::TPermit); }
+Variant Smes::Gyr(int i) const { return constantOf(*state_, i, &TLatka::Gyr); }
+
+std::string componentName(const State& state, int i) { return textOrEmpty(state, i, &TLatka::Nazev).toText(); }
+
+Variant Smes::Nazev(int i) const { return textOrEmpty(*state_, i, &TLatka::Nazev); }
+Variant Smes::Vzorec(int i) const { return textOrEmpty(*state_, i, &TLatka::Vzorec); }
+Variant Smes::Synonym(int i) const { return textOrEmpty(*state_, i, &TLatka::Synonym); }
+
+void Smes::Nazev(int i, const std::string& name) {
+    const std::string bytes = encodeWindows1250OrQuestionMarks(name);
+    auto& field = state_->definition.slots.change(checkedInt16(i)).Nazev;
+    field.fill(' ');
+    std::copy_n(bytes.begin(), std::min(bytes.size(), field.size()), field.begin());
+}
+
+Variant Smes::CAS(int i) const {
+    const std::int32_t number = recordOf(*state_, i).CAS;
+    if (number <= 0) return " ";
+    return "[" + casText(Str(number)) + "]";  // the leading blank stays inside the bracket, as designed
+}
+
+void Smes::inivlast() { state_->settings.captionsAreFilled = true; }
+
+std::string Smes::PopisVlastnosti(int i) const {
+    if (i < 1 || i > static_cast<int>(kPropertyCaptions.size())) checked::raise(RunTimeError::kSubscript);
+    if (!state_->settings.captionsAreFilled) return {};
+    return std::string(kPropertyCaptions[static_cast<std::size_t>(i - 1)]);
+}
+
+}  // namespace velor

@@ -1,0 +1,17 @@
+// Loading the components' records.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "object/state.h"
+
+namespace velor {
+
+// See Smes::Inivlr. Returns the number of components, 0 when one is missing from the database.
+std::int16_t loadComponents(State& state);
+
+// The 30 characters of component i's name; an empty text for an empty slot.
+std::string componentName(const State& state, int i);
+
+}  // namespace velor

@@ -1,0 +1,112 @@
+// The state of one mixture object, in parts; a function takes the part that it needs.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "object/messages.h"
+#include "object/slots.h"
+#include "velor/flash_record.h"
+#include "velor/user_interface.h"
+#include "velor/variant.h"
+
+namespace velor {
+
+struct Settings {
+    std::int16_t MezeTeplot = 0;
+    std::int16_t Redlich = 0;
+    std::string SNazev;
+    bool captionsAreFilled = false;  // by inivlast
+};
+
+// The mixture's caption for titles.
+inline std::string mixtureName(const Settings& settings) {
+    return settings.SNazev.empty() ? "nepojmenovaná" : settings.SNazev;
+}
+
+struct Definition {
+    static constexpr std::int16_t kNacteno = 55537 - 65536;  // 55537 as a signed 16-bit number
+
+    std::int16_t PocSlozek = 0;
+    ComponentSlots slots;
+    std::int16_t Nacteno = 0;
+};
+
+// Where the database is, or is to be looked for.
+struct DatabasePlace {
+    std::string AdresaBaze;
+    std::string DataFileName = "VELOR.DRC";
+    std::string CFGPath;
+    std::string CFGName = "VELOR.CFG";
+    std::optional<std::vector<std::string>> volumes;  // none: the system is asked when they are needed
+};
+
+struct SubstanceListState {
+    std::vector<std::string> SeznamLatek;  // its lines; empty until it is built
+    std::int16_t PocLatek = 0;
+    std::int16_t RezimSeznamu = 0;
+    std::uint32_t randomState = 0x50000;  // where the classic generator begins
+};
+
+// What the last real-gas solution gave; empty where it failed.
+struct RealGasState {
+    std::optional<double> density;         // mol/cm3
+    std::optional<double> internalEnergy;  // J/mol
+    std::optional<double> enthalpy;        // J/mol
+    std::optional<double> entropy;         // J/(mol K)
+    std::optional<double> lnFug;           // -
+    std::optional<double> Cv;              // J/(mol K)
+    std::optional<double> Cp;              // J/(mol K)
+    std::optional<double> jouleThomson;    // K/Pa
+};
+
+struct LastResults {
+    KeptFractions Slozeni;           // the last mixture call's composition
+    KeptFractions Zlomky;            // the last conversion's result
+    KeptFractions enteredFractions;  // of the last composition dialog: as typed,
+    KeptFractions moleFractions;     // and converted
+    KeptFractions massFractions;
+    RealGasState realGas;
+    FlashRecord flash;
+    double flashPressure = 0;  // Pa, vapour pressure kept from the last iterated flash: the next report prints it
+    Variant TKRITsm, PKRITsm, VKRITsm, ZKRITsm, MSm;  // of the last PSEUD
+};
+
+// Constants that the rooms below prepare from the records; each room knows what is in them.
+struct PreparedGas;
+struct PreparedGasMixing;
+
+struct Prepared {
+    std::shared_ptr<PreparedGas> gas;
+    std::shared_ptr<PreparedGasMixing> gasMixing;
+};
+
+// The forms of an object, whose behaviour a room below defines.
+class Dialogs {
+  public:
+    virtual ~Dialogs() = default;
+    // Makes the form of the substance list anew, so that its list is built anew.
+    virtual void renewList() = 0;
+
+  protected:
+    Dialogs() = default;
+    Dialogs(const Dialogs&) = default;
+    Dialogs& operator=(const Dialogs&) = default;
+};
+
+struct State {
+    std::unique_ptr<UserInterface> ownUserInterface;  // where the host brought none
+    Messages messages;
+    Settings settings;
+    Definition definition;
+    DatabasePlace place;
+    SubstanceListState list;
+    LastResults last;
+    Prepared prepared;
+    std::unique_ptr<Dialogs> dialogs;
+};
+
+}  // namespace velor

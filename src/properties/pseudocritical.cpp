@@ -1,0 +1,111 @@
+#include "properties/pseudocritical.h"
+
+#include <cmath>
+#include <optional>
+
+#include "object/trap.h"
+#include "properties/fractions.h"
+#include "rules/composition.h"
+#include "rules/pseudocritical.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "velor/smes.h"
+
+namespace velor {
+
+namespace {
+
+constexpr double kSumTolerance = 0.002;
+constexpr double kLeastSum = 0.25;  // a smaller sum is not normalised
+
+void setMembers(State& state, const Variant& T, const Variant& P, const Variant& V, const Variant& Z,
+                const Variant& M) {
+    state.last.TKRITsm = T;
+    state.last.PKRITsm = P;
+    state.last.VKRITsm = V;
+    state.last.ZKRITsm = Z;
+    state.last.MSm = M;
+}
+
+// Copies X into Slozeni, normalised where that is due; false when the sum is too small to go on. Only a message that
+// may be shown makes the sum matter: with messages off any sum is used as passed, by design.
+bool takeNormalised(State& state, const Composition& X, ComponentValues& x) {
+    const int n = state.definition.PocSlozek;
+    x = takeFractions(state, X);
+    const double sum = sumOf(x.first(n));
+    if (!(std::abs(1.0 - sum) > kSumTolerance) || !mixtureMessageIsDue(state.messages)) return true;
+    showCounted(state.messages, "Směs složení není definováno nebo normalizováno!", Icon::Exclamation);
+    if (!(sum > kLeastSum)) return false;
+    for (int i = 1; i <= n; ++i) {
+        x[i] = checked::divide(x[i], sum);
+        state.last.Slozeni.set(i, x[i]);
+    }
+    return true;
+}
+
+// Fills the five members; nothing, and the members 0, where there is nothing to compute.
+std::optional<Pseudocritical> computePseudocritical(State& state, const Composition& X) {
+    const std::int16_t zero = 0;
+    setMembers(state, zero, zero, zero, zero, zero);
+    if (state.definition.PocSlozek <= 0 && mixtureMessageIsDue(state.messages)) {
+        showCounted(state.messages, "Směs není definována!", Icon::Exclamation);
+        return std::nullopt;
+    }
+    const int n = state.definition.PocSlozek;
+    ComponentValues x(n), M(n), Tc(n), Pc(n), Vc(n);
+    if (!takeNormalised(state, X, x)) return std::nullopt;
+    for (int i = 1; i <= n; ++i) {
+        const TLatka& record = state.definition.slots.Latka(i);
+        M[i] = record.Mv;
+        Tc[i] = record.Tkr;
+        Pc[i] = record.Pkr;
+        Vc[i] = record.Vkr;
+    }
+    const Pseudocritical mixture = pseudocriticalValues(x.first(n), M.first(n), Tc.first(n), Pc.first(n), Vc.first(n));
+    for (const double value :
+         {mixture.temperature, mixture.pressure, mixture.volume, mixture.compressibility, mixture.molarMass})
+        checked::finite(value);
+    setMembers(state, mixture.temperature, mixture.pressure, mixture.volume, mixture.compressibility,
+               mixture.molarMass);
+    return mixture;
+}
+
+}  // namespace
+
+Pseudocritical PSEUD(State& state, const Composition& X) {
+    return computePseudocritical(state, X).value_or(Pseudocritical{});
+}
+
+Variant Smes::PSEUD(const Variant& X, const std::string& Sel) {
+    State& state = *state_;
+    loadComponents(state);
+    const std::string choice = upperCase(Sel);
+    const bool computed = computePseudocritical(state, Composition(X)).has_value();
+    if (computed && choice == "T") return state.last.TKRITsm;
+    if (computed && choice == "P") return state.last.PKRITsm;
+    if (computed && choice == "V") return state.last.VKRITsm;
+    if (computed && choice == "Z") return state.last.ZKRITsm;
+    if (computed && choice == "M") return state.last.MSm;
+    return "PSEUD?";
+}
+
+void Smes::PseudShow(const Variant& X) {
+    PSEUD(X, "");
+    const State& state = *state_;
+    const std::string end(kLineBreak);
+    show(state_->messages,
+         "Pseudokritické veličiny směsi " + end + mixtureName(state.settings) + end +
+             "TKRITsm(K) = " + Format(state.last.TKRITsm.toDouble(), "0.0") + end +
+             "PKRITsm(MPa) = " + Format(state.last.PKRITsm.toDouble() / 1000000, "0.000") + end +
+             "VKRITsm(m3/mol) = " + Format(state.last.VKRITsm.toDouble(), "0.000E+00") + end +
+             "ZKRITsm(-) = " + Format(state.last.ZKRITsm.toDouble(), "0.0000") + end,
+         Icon::Information);
+}
+
+Variant Smes::TKRITsm() const { return state_->last.TKRITsm; }
+Variant Smes::PKRITsm() const { return state_->last.PKRITsm; }
+Variant Smes::VKRITsm() const { return state_->last.VKRITsm; }
+Variant Smes::ZKRITsm() const { return state_->last.ZKRITsm; }
+Variant Smes::MSm() const { return state_->last.MSm; }
+
+}  // namespace velor

@@ -1,0 +1,127 @@
+#include "properties/pure_value.h"
+
+#include <optional>
+#include <string>
+
+#include "object/trap.h"
+#include "properties/pure_property.h"
+#include "rules/equations.h"
+#include "runtime/numbers.h"
+#include "runtime/text.h"
+#include "runtime/windows_1250.h"
+#include "velor/smes.h"
+
+namespace velor {
+
+namespace {
+
+constexpr int kProperties = 10;
+constexpr double kLeastCriticalTemperature = 15.0;  // helium's and unknown ones do not clamp
+constexpr double kBelowCritical = 0.98;
+
+bool exists(const State& state, int i, int k) {
+    return k >= 1 && k <= kProperties && i >= 1 && i <= state.definition.PocSlozek;
+}
+
+// What is shown to the user stays out of the way of the evaluation: its texts would cost every call their stack frame.
+
+// Both rejections are tied to their message: where it is not due the evaluation goes on.
+[[gnu::noinline]] bool rejects(State& state, int i, int k) {
+    if (!engineMessageIsDue(state.messages)) return false;
+    if (k < 1 || k > kProperties) {
+        showCounted(state.messages, "FFce: Chyba č.vlastnosti(1-10): " + Str(k), Icon::Exclamation);
+    } else {
+        showCounted(state.messages,
+                    "FFce: Chyba č.složky směsi (1-" + Str(state.definition.PocSlozek) + ") : " + Str(i),
+                    Icon::Exclamation);
+    }
+    return true;
+}
+
+std::string substanceAndProperty(const State& state, int i, int k) {
+    const auto& name = state.definition.slots.Latka(i).Nazev;
+    return Str(state.definition.slots.CisloLatky(i)) + "  " + decodeWindows1250({name.data(), name.size()}) +
+           " vlast. " + std::string(propertyName(k));
+}
+
+[[gnu::noinline]] void reportMissing(State& state, int i, int k) {
+    if (!engineMessageIsDue(state.messages)) return;
+    showCounted(state.messages, "FFce: " + Str(i) + ".složka " + substanceAndProperty(state, i, k) + " neni v bázi!",
+                Icon::None);
+}
+
+[[gnu::noinline]] double reportInvalidType(State& state, double T, int i, int k, int type) {
+    const std::string temperature = kLineBreak + ("Teplota(K)= " + Format(T, "#0.0"));
+    if (engineMessageIsDue(state.messages)) {
+        showCounted(state.messages,
+                    "FFce: Typ.korel.vzt." + Str(type) + " u látky: " + substanceAndProperty(state, i, k) + temperature,
+                    Icon::Exclamation, "VELOR Chyba");
+    }
+    if (state.messages.ChyboveHlasky == -1) {
+        raiseToHost("VELOR - FFce", std::string("Chyba při výpočtu vlastnosti!") + kLineBreak +
+                                        "Látka: " + substanceAndProperty(state, i, k) + temperature);
+    }
+    return kNoValue;
+}
+
+double workingTemperature(const State& state, const TLatka& record, const TKorelace& block, double T, int k) {
+    double Tx = T;
+    // Above the critical point the liquid's correlations are evaluated just below it, on purpose.
+    if (k >= kETAL && record.Tkr > kLeastCriticalTemperature && T > record.Tkr) Tx = kBelowCritical * record.Tkr;
+    if (state.settings.MezeTeplot > 0) {  // the caller's T is compared, not the one just set
+        if (T < block.Tmin) Tx = block.Tmin;
+        if (T > block.Tmax) Tx = block.Tmax;
+    }
+    return Tx;
+}
+
+const TKorelace& blockOf(const TLatka& record, int k) {
+    if (k < 1 || k > TLatka::kCorrelations) checked::raise(RunTimeError::kSubscript);
+    return record.Korelace[static_cast<std::size_t>(k - 1)];
+}
+
+double evaluate(State& state, const Temperature& T, int i, int k) {
+    const TLatka& record = state.definition.slots.Latka(i);
+    const TKorelace& block = blockOf(record, k);
+    if (block.Priznak == 0) [[unlikely]]
+        reportMissing(state, i, k);
+    if (!isEquationType(block.Typ)) [[unlikely]]
+        return reportInvalidType(state, T, i, k, block.Typ);
+    const double Tx = workingTemperature(state, record, block, T, k);
+    if (k == kROLW && state.definition.slots.CisloLatky(i) == kWater) return waterDensity(Tx);
+    // A T that was not moved brings the logarithm that the components share.
+    return Tx == T ? evaluateEquation(block.Typ, block.A, T) : evaluateEquation(block.Typ, block.A, Tx);
+}
+
+// What is raised to the host on purpose tells the substance and passes the trap as it is.
+template <class Body>
+double valueOf(State& state, const Body& body) {
+    return trapped<Raised::Passed>(
+               state.messages, [] { return std::string("FFce"); }, body)
+        .value_or(kNoValue);
+}
+
+}  // namespace
+
+double FFce(State& state, const Temperature& T, int i, int k) {
+    if (!exists(state, i, k) && rejects(state, i, k)) return 0.0;
+    return valueOf(state, [&]() -> std::optional<double> { return evaluate(state, T, i, k); });
+}
+
+std::string_view propertyName(int k) {
+    if (k >= 1 && k <= kProperties) return pureProperties()[static_cast<std::size_t>(k - 1)].code;
+    return k == TLatka::kCorrelations ? "Rezerva" : "Nedef. ";
+}
+
+Variant Smes::FFce(const Variant& T, int i, int k) {
+    checkedInt16(i), checkedInt16(k);
+    if (!exists(*state_, i, k) && rejects(*state_, i, k)) return 0.0;
+    return valueOf(*state_, [&]() -> std::optional<double> { return evaluate(*state_, T.toDouble(), i, k); });
+}
+
+std::string Smes::ChybRozv(int k) { return std::string(propertyName(checkedInt16(k))); }
+std::string Smes::Vztah(int Typ) { return std::string(equationText(checkedInt16(Typ))); }
+
+Variant Smes::Log10(const Variant& v) { return checked::decimalLogarithm(v.toDouble()); }
+
+}  // namespace velor

@@ -1,0 +1,18 @@
+// The value of one property of one component: what every mixture rule gathers.
+#pragma once
+
+#include <string_view>
+
+#include "object/state.h"
+#include "rules/temperature.h"
+
+namespace velor {
+
+enum Property : int { kETAG = 1, kCPG, kALAG, kROLW, kETAL, kALAL, kCPL, kDHV, kTENS, kSIGMA };
+
+// See Smes::FFce.
+double FFce(State& state, const Temperature& T, int i, int k);
+
+std::string_view propertyName(int k);
+
+}  // namespace velor

@@ -1,0 +1,35 @@
+#include "rules/composition.h"
+
+#include <cstddef>
+
+#include "runtime/checked.h"
+
+namespace velor {
+
+namespace {
+
+void divideBySum(std::span<double> parts) {
+    double sum = sumOf(parts);
+    if (sum < kFractionTolerance) sum = 1.0;
+    for (double& part : parts) part = checked::divide(part, sum);
+}
+
+}  // namespace
+
+double sumOf(std::span<const double> x) {
+    double sum = 0.0;
+    for (const double fraction : x) sum += fraction;
+    return sum;
+}
+
+void massFractions(std::span<const double> x, std::span<const double> M, std::span<double> w) {
+    for (std::size_t i = 0; i < x.size(); ++i) w[i] = x[i] * M[i];
+    divideBySum(w);
+}
+
+void moleFractions(std::span<const double> w, std::span<const double> M, std::span<double> x) {
+    for (std::size_t i = 0; i < w.size(); ++i) x[i] = checked::divide(w[i], M[i]);
+    divideBySum(x);
+}
+
+}  // namespace velor

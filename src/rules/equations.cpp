@@ -1,0 +1,205 @@
+#include "rules/equations.h"
+
+#include <cmath>
+
+#include "runtime/checked.h"
+
+namespace velor {
+
+namespace {
+
+using checked::divide;
+using checked::exponential;
+using checked::finite;
+using checked::kLn10;
+using checked::naturalLogarithm;
+using checked::squareRoot;
+
+double tenTo(double exponent) { return exponential(kLn10 * exponent); }
+
+// Within a few last bits, and a quarter cheaper than std::pow.
+double power(double base, double exponent) {
+    return base > 0.0 ? exponential(exponent * std::log(base)) : checked::power(base, exponent);
+}
+
+// T^exponent by the logarithm that T shares.
+double power(const Temperature& T, double exponent) {
+    return T > 0.0 ? exponential(exponent * T.logarithm()) : checked::power(T, exponent);
+}
+
+// Nearly every vapour pressure has one of three whole exponents; a product is a third of a power's cost.
+double powerOfVapourPressure(const Temperature& T, double exponent) {
+    if (exponent == 1.0) return T;
+    if (exponent == 2.0) return T * T;
+    if (exponent == 6.0) {
+        const double cube = T * T * T;
+        return cube * cube;
+    }
+    return power(T, exponent);
+}
+
+// Types 1-5, by Horner's scheme from the top.
+double polynomial(int degree, const Coefficients& A, double T) {
+    double y = A[static_cast<std::size_t>(degree)];
+    for (int j = degree - 1; j >= 0; --j) y = y * T + A[static_cast<std::size_t>(j)];
+    return y;
+}
+
+double antoine(const Coefficients& A, double T) { return exponential(A[0] + divide(A[1], A[2] + T)); }
+
+double rackett(const Coefficients& A, double T) {
+    constexpr double kTwoSevenths = 0.285714;  // six digits, kept
+    if (T > A[2]) return kNoValue;
+    const double root = power(1.0 - divide(T, A[2]), kTwoSevenths);
+    return 1000.0 * exponential(naturalLogarithm(A[0]) - root * naturalLogarithm(A[1]));
+}
+
+double watson(const Coefficients& A, double T) {
+    if (T > A[3]) return kNoValue;
+    const double ratio = divide(A[3] - T, static_cast<double>(A[3]) - A[1]);
+    if (ratio < 0.0) return kNoValue;
+    return A[0] * power(ratio, A[2]);
+}
+
+double decimalWithLogarithm(const Coefficients& A, const Temperature& T) {
+    return exponential(kLn10 * (A[0] + divide(A[1], A[2] + T) + A[4] * T + A[5] * T * T) + A[3] * T.logarithm());
+}
+
+double decimalQuadratic(const Coefficients& A, double T) {
+    return tenTo(A[0] + divide(A[1], A[4] + T) + A[2] * T + A[3] * T * T);
+}
+
+double reciprocalCubic(const Coefficients& A, double T) {
+    const double r = divide(1.0, T);
+    return exponential(A[0] + r * (A[1] + r * (A[2] + r * A[3])));
+}
+
+double sutherland(const Coefficients& A, double T) { return divide(A[0] * (T * squareRoot(T)), T + A[1]); }
+
+double wagner(const Coefficients& A, double T) {
+    if (!(T < A[4])) return kNoValue;
+    const double Tr = divide(T, A[4]);
+    const double t = 1.0 - Tr;
+    const double cube = t * t * t;
+    const double sum = A[0] * t + A[1] * (t * squareRoot(t)) + A[2] * cube + A[3] * (cube * cube);
+    return A[5] * exponential(divide(sum * A[4], T));
+}
+
+double reducedTension(const Coefficients& A, double T) {
+    constexpr double kOneSixth = 0.166667;  // six digits, kept
+    if (!(T < A[1])) return kNoValue;
+    const double Tr = divide(T, A[1]);
+    return divide(A[0] * power(1.0 - Tr, 0.38), power(Tr, kOneSixth));
+}
+
+double daubert(const Coefficients& A, double T) {
+    if (T > A[2]) return kNoValue;
+    const double base = 1.0 - divide(T, A[2]);
+    if (base < 0.0) return kNoValue;
+    return divide(A[0], power(A[1], 1.0 + power(base, A[3])));
+}
+
+double reducedQuadratic(const Coefficients& A, double T) {
+    if (T > A[5]) return kNoValue;
+    const double Tr = divide(T, A[5]);
+    return A[0] * (1.0 - Tr) * (A[1] + A[2] * Tr + A[3] * Tr * Tr);
+}
+
+double referenceReciprocal(const Coefficients& A, double T) {
+    return tenTo(A[0] * (divide(1.0, T) - divide(1.0, A[1])) + A[2]);
+}
+
+double extendedAntoine(const Coefficients& A, const Temperature& T) {
+    return exponential(A[0] + divide(A[1], T) + A[2] * T.logarithm() + A[3] * powerOfVapourPressure(T, A[4]));
+}
+
+double gasTransport(const Coefficients& A, const Temperature& T) {
+    const double r = divide(1.0, T);
+    return divide(A[0] * power(T, A[1]), 1.0 + r * (A[2] + r * A[3]));
+}
+
+double evaluateUnchecked(int type, const Coefficients& A, const Temperature& T) {
+    switch (type) {
+        case 1:
+        case 2:
+        case 3:
+        case 4:
+        case 5:
+            return polynomial(type, A, T);
+        case 6:
+            return antoine(A, T);
+        case 7:
+            return rackett(A, T);
+        case 8:
+            return watson(A, T);
+        case 9:
+            return decimalWithLogarithm(A, T);
+        case 10:
+            return decimalQuadratic(A, T);
+        case 11:
+            return reciprocalCubic(A, T);
+        case 12:
+            return sutherland(A, T);
+        case 13:
+            return wagner(A, T);
+        case 14:
+            return reducedTension(A, T);
+        case 15:
+            return daubert(A, T);
+        case 16:
+            return reducedQuadratic(A, T);
+        case 17:
+            return referenceReciprocal(A, T);
+        case 18:
+            return extendedAntoine(A, T);
+        case 19:
+            return gasTransport(A, T);
+        default:
+            checked::raise(RunTimeError::kSubscript);
+    }
+}
+
+constexpr std::array<std::string_view, kEquationTypes> kTexts{
+    " y = A1 + A2.T   přímka ",
+    " y = A1 + A2.T + A3.T^2   parabola ",
+    " y = A1 + A2.T + A3.T^2 + A4.T^3  polynom ",
+    " y = A1 + A2.T + A3.T^2 + A4.T^3 + A5.T^4  polynom ",
+    " y = A1 + A2.T + A3.T^2 + A4.T^3 + A5.T^4 + A6.T^5  polynom ",
+    " ln(y) = A1+ A2/(A3 + T)   Antoine ",
+    " log(y) = 3 + log(A1) - (1 - T/A3)^(2/7) .log(A2)    A3=Tkr ",
+    " y = A1.[(A4 - T)/(A4 - A2)]^A3    A4=Tkr ",
+    " log(y) = A1 + A2/(A3 + T) + A4.log(T) + A5.T + A6.T^2 ",
+    " log(y) = A1 + A2/(A5 + T) + A3.T + A4.T^2 ",
+    " ln(y) = A1 + A2/T + A3/T^2 + A4/T^3 ",
+    " y = A1.T^1.5 /(T + A2) ",
+    " ln(y/A6) = (A1.t + A2.t^1.5 + A3.t^3 + A4.t^6) /T.A5   t=1-T/A5; A5=Tkr; A6=Pkr Wagner ",
+    " y = A1.(1 - Tr)^0.38 / Tr^(1/6) ",
+    " y = A1 / A2^[1 + (1 - T/A3)^A4] ",
+    " y = A1.(1 - Tr)[A2 + A3.Tr + A4.Tr^2]   Tr=T/A6 ",
+    " log(y) = A1.(1/T - 1/A2)+A3 ",
+    " ln(y) = A1 + A2/T + A3.ln(T) + A4.T^A5 ",
+    " y = A1.T^A2/(1 + A3/T + A4/T^2) ",
+};
+
+}  // namespace
+
+double evaluateEquation(int type, const Coefficients& A, const Temperature& T) {
+    return finite(evaluateUnchecked(type, A, T));
+}
+
+std::string_view equationText(int type) {
+    if (!isEquationType(type)) return " Neznámý vztah! ";
+    return kTexts[static_cast<std::size_t>(type - 1)];
+}
+
+double waterDensity(double T) {
+    const double tau = 1.0 - T / 647.096;
+    if (tau < 0.0) checked::raise(RunTimeError::kInvalidCall);  // no power of it exists
+    const double c = std::cbrt(tau);                            // every exponent is a multiple of 1/3
+    const double c2 = c * c, c5 = c2 * c2 * c, c16 = c5 * c5 * c5 * c;
+    const double c32 = c16 * c16, c43 = c32 * c5 * c5 * c, c110 = c43 * c43 * c16 * c5 * c2 * c;
+    return finite(322.0 * (1.0 + 1.99274064 * c + 1.09965342 * c2 - 0.510839303 * c5 - 1.7549379 * c16 -
+                           45.5170352 * c43 - 674694.45 * c110));
+}
+
+}  // namespace velor

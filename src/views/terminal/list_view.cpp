@@ -1,0 +1,39 @@
+// The list of substances, to be read only.
+#include "runtime/text.h"
+#include "views/terminal/dialog.h"
+#include "views/terminal/substance_search.h"
+#include "views/terminal/views.h"
+
+namespace velor::terminal {
+
+void showView(Screen& screen, F_Sezn& form) {
+    Dialog dialog(screen, [&] { return form.Nadpis_1; });
+    dialog.escape = [&] { form.close(); };
+    Label& count = dialog.add<Label>([&] { return form.Nadpis_2; });
+    SubstanceSearch search(dialog, form.L_Sezn, [&](int index) { form.L_Sezn.selected = index; });
+    // Searching and moving about is done from the field, which keeps the focus: in the list itself every key closes.
+    TextField& field = dialog.add<TextField>([&] { return search.list().searched(); },
+                                             [&](const std::string& text) { search.list().search(text); });
+    field.hint = "písmena hledají · ↑↓ PgUp PgDn posun · Enter nebo Esc zavře";
+    field.before = [&](const Event& event) {
+        if (event.is(Key::Enter)) form.keyPressed(kEnterKey);
+        const bool isMoveInText = event.is(Key::Home) || event.is(Key::End);
+        return !form.visible || (!isMoveInText && search.list().scroll(event));
+    };
+    search.list().before = [&](const Event& event) {
+        if (event.kind == Event::Kind::Character) form.keyPressed(static_cast<int>(event.character));
+        if (event.is(Key::Enter)) form.keyPressed(kEnterKey);
+        return !form.visible;
+    };
+    search.list().hint = "↑↓ PgUp PgDn posun · jiná klávesa nebo klepnutí zavře · Tab hledání";
+    search.list().clicked = [&] { form.click(); };
+    dialog.layout = [&](Size page) {
+        count.area = {0, 1, 1, page.columns - 1};
+        search.place(1, page);
+        field.area = search.fieldArea();
+    };
+    dialog.focus(field);
+    dialog.run(form.visible);
+}
+
+}  // namespace velor::terminal
