@@ -100,7 +100,7 @@ void Smes::mSloz_ZobrazZ(int i) {
     const auto exclaim = [&state](const std::string& text) { show(state.messages, text, Icon::Exclamation); };
     const auto use = [&state, i](const TLatka& record) {
         state.definition.slots.change(i) = record;
-        boxAt(formsOf(state).composition->L_J, i - 1) = componentName(state, i);
+        boxAt(formsOf(state).composition->L_J, i - 1) = componentName(state.definition.slots, i);
     };
     F_Zmenaz& names = *formsOf(state).change;
     names.caption = captionOf(state, i, "Dočasná změna");

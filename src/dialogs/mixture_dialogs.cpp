@@ -52,16 +52,16 @@ bool prepareForm(State& state, F_Sloz& form, const Variant& X, const Variant& W,
     for (int i = 1; i <= state.definition.PocSlozek; ++i) {
         const std::size_t box = ComponentSlots::index(i);
         if (!mode.isMissing()) form.T_S[box].text = prefilled(std::abs(static_cast<int>(mode.toInt16())) - 1, i, X, W);
-        form.L_J[box] = componentName(state, i);
+        form.L_J[box] = componentName(state.definition.slots, i);
         form.T_S[box].enabled = true;
         if (state.definition.slots.Latka(i).Cislo == 0) acceptable = false;
     }
     return acceptable;
 }
 
-std::vector<double> readValues(const State& state, const F_Sloz& form) {
+std::vector<double> readValues(const Definition& definition, const F_Sloz& form) {
     std::vector<double> values;
-    for (int i = 1; i <= state.definition.PocSlozek; ++i) {
+    for (int i = 1; i <= definition.PocSlozek; ++i) {
         values.push_back(Smes::Hodnota(form.T_S[ComponentSlots::index(i)].text).toDouble());
         if (values.back() < 0.0) raiseToHost("ZadejSloz", std::to_string(i) + ". složení je záporné!");
     }
@@ -72,18 +72,13 @@ struct Converted {
     std::vector<double> mole, mass;
 };
 
-// The fractions in both kinds, divided by their own sums.
-Converted convert(const State& state, const std::vector<double>& values, bool molar) {
+// The fractions in both kinds.
+Converted convert(const Definition& definition, const std::vector<double>& values, bool molar) {
     std::vector<double> M;
-    for (int i = 1; i <= state.definition.PocSlozek; ++i) M.push_back(state.definition.slots.Latka(i).Mv);
+    for (int i = 1; i <= definition.PocSlozek; ++i) M.push_back(definition.slots.Latka(i).Mv);
     Converted both{values, values};
     std::vector<double>& other = molar ? both.mass : both.mole;
-    double sum = 0.0;
-    for (std::size_t i = 0; i < M.size(); ++i) {
-        other[i] = molar ? values[i] * M[i] : checked::divide(values[i], M[i]);
-        sum += other[i];
-    }
-    for (double& fraction : other) fraction = checked::divide(fraction, sum);
+    molar ? massFractions(values, M, other) : moleFractions(values, M, other);
     if (other.size() == 1) other.front() = 1.0;
     return both;
 }
@@ -121,8 +116,8 @@ void Smes::mZadSmes_SZavrit(const CislaLatek& numbers) {
     state.definition.PocSlozek = n;
     for (int i = 1; i <= n; ++i) state.definition.slots.setCisloLatky(i, numbers[ComponentSlots::index(i) + 1]);
     if (n < ComponentSlots::kCount) state.definition.slots.setCisloLatky(n + 1, 0);
-    if (loadComponents(state) == 0 && state.messages.ChyboveHlasky < 2)
-        show(state.messages, "Nemohu načíst z " + state.place.DataFileName + "!", Icon::Critical);
+    if (loadComponents(state) == 0)
+        showUnlessSilent(state.messages, "Nemohu načíst z " + state.place.DataFileName + "!", Icon::Critical);
 }
 
 void Smes::ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant&, const Variant& mode) {
@@ -141,7 +136,7 @@ void Smes::ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant&, const V
             state.definition.PocSlozek = 0;
             return;
         }
-        std::vector<double> values = readValues(state, form);
+        std::vector<double> values = readValues(state.definition, form);
         const double sum = sumOf(values);
         if (std::abs(sum) < kNoSum && state.messages.ChyboveHlasky < 2) {
             show(state.messages, "Je třeba zadat složení směsi!", Icon::Critical);
@@ -155,7 +150,7 @@ void Smes::ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant&, const V
         }
         if (std::abs(sum - 1.0) > kSumTolerance && values.size() > 1)
             for (double& value : values) value = checked::divide(value, sum);
-        const Converted fractions = convert(state, values, form.O_Mol);
+        const Converted fractions = convert(state.definition, values, form.O_Mol);
         keep(state.last.enteredFractions, values);
         keep(state.last.moleFractions, fractions.mole);
         keep(state.last.massFractions, fractions.mass);

@@ -125,7 +125,7 @@ void sortLines(std::uint32_t& randomState, std::vector<std::string>& lines) {
 }
 
 void rebuildSubstanceList(State& state) {
-    if (state.place.AdresaBaze.empty()) locateDatabase(state);
+    if (state.place.AdresaBaze.empty()) locateDatabase(state.place, state.messages);
     if (state.place.AdresaBaze.empty()) return;
     std::vector<std::string> lines = readLines(state);
     sortLines(state.list.randomState, lines);

@@ -60,11 +60,10 @@ std::optional<float> typedSingle(std::string_view text) {
 
 template <std::size_t Width>
 void readText(const std::string& text, int field, std::array<char, Width>& bytes) {
-    std::string read;
-    const std::string complaint = readBytes(trimBlanks(text), Width, read);
-    if (!complaint.empty()) refuse(field, complaint + ".");
+    const Parsed<std::string> read = readBytes(trimBlanks(text), Width);
+    if (const auto* fault = std::get_if<Fault>(&read)) refuse(field, fault->reason + ".");
     if (field == F_Zmenaz::kNazev && trimBlanks(text).empty()) refuse(field, "název nesmí chybět.");
-    std::copy(read.begin(), read.end(), bytes.begin());
+    std::ranges::copy(std::get<std::string>(read), bytes.begin());
 }
 
 // Hyphens as on paper, with or without the brackets of the display; nothing typed is no number.
@@ -77,7 +76,7 @@ void readCasField(const std::string& text, int field, TLatka& record) {
     }
     if (!hasCasForm(number) || !hasCasCheckDigit(number))
         refuse(field, "zadejte platné číslo ve tvaru 64-17-5, nebo pole nechte prázdné.");
-    readCas(number, record.CAS);
+    record.CAS = std::get<std::int32_t>(readCas(number));
 }
 
 void readConstant(const std::string& text, int field, TLatka& record) {

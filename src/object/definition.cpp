@@ -5,8 +5,7 @@
 
 #include "object/load.h"
 #include "object/messages.h"
-#include "records/constant_table.h"
-#include "records/record_layout.h"
+#include "object/state.h"
 #include "runtime/numbers.h"
 #include "velor/smes.h"
 
@@ -15,10 +14,6 @@ namespace velor {
 namespace {
 
 constexpr const char* kDefinitionTitle = "Definice složek";
-
-void showUnlessSilent(State& state, std::string text, Icon icon, std::string title = "VELOR") {
-    if (state.messages.ChyboveHlasky < 2) show(state.messages, std::move(text), icon, std::move(title));
-}
 
 // Loads a new definition; afterwards it counts as not loaded, so that the next property call reads the records.
 void loadDefinition(State& state) {
@@ -40,7 +35,7 @@ Outcome attempt(State& state, const Statement& statement) {
         return Outcome::Done;
     } catch (const RunTimeError& error) {
         if (error.number() == RunTimeError::kSubscript) return Outcome::OutsideArray;
-        showUnlessSilent(state, "Chybné zadání složek", Icon::Exclamation, kDefinitionTitle);
+        showUnlessSilent(state.messages, "Chybné zadání složek", Icon::Exclamation, kDefinitionTitle);
         return Outcome::Failed;
     }
 }
@@ -65,7 +60,7 @@ void Smes::DefSlozky(const Variant& Cisla) {
     State& state = *state_;
     attempt(state, [&] {
         if (Cisla.upperBound() < Cisla.lowerBound())
-            showUnlessSilent(state, "Nebyly zadány čísla složek!", Icon::Exclamation, kDefinitionTitle);
+            showUnlessSilent(state.messages, "Nebyly zadány čísla složek!", Icon::Exclamation, kDefinitionTitle);
     });
     copyNumbers(state, Cisla);
     attempt(state, [&] { state.definition.PocSlozek = checkedInt16(Cisla.upperBound() + 1); });
@@ -86,7 +81,7 @@ void Smes::DefSmes(int N, const Variant& Cisla) {
 void Smes::ZapisNslozky(int i, int n) {
     const std::int16_t number = checkedInt16(n);
     if (checkedInt16(i) < 1 || i > ComponentSlots::kCount) {
-        showUnlessSilent(*state_, "Index složky mimo meze!", Icon::Critical);
+        showUnlessSilent(state_->messages, "Index složky mimo meze!", Icon::Critical);
         return;
     }
     state_->definition.slots.setCisloLatky(i, number);
@@ -115,32 +110,6 @@ void Smes::Nsloz(const Variant& count) {
     state_->definition.PocSlozek = n;
     state_->definition.slots.setCisloLatky(n + 1,
                                            0);  // a negative count is kept and fails here, deliberately unguarded
-}
-
-Variant Smes::Nslozky(int i) const { return state_->definition.slots.Latka(checkedInt16(i)).Cislo; }
-
-namespace {
-
-bool addressesConstant(const State& state, int i, int k) {
-    return checkedInt16(i) >= 1 && i <= state.definition.PocSlozek && checkedInt16(k) >= 1 && k <= TLatka::kConstants;
-}
-
-}  // namespace
-
-float Smes::Bod(int i, int k) const {
-    if (!addressesConstant(*state_, i, k)) return kNoConstant;
-    const float constant = state_->definition.slots.Latka(i).*constantMember(k);
-    checked::finite(constant);
-    return constant;
-}
-
-void Smes::Bod(int i, int k, const Variant& value) {
-    const float constant = value.toSingle();
-    if (!addressesConstant(*state_, i, k)) {
-        showUnlessSilent(*state_, "Bod( ) - chybné zadání!", Icon::Exclamation);
-        return;
-    }
-    state_->definition.slots.change(i).*constantMember(k) = constant;
 }
 
 }  // namespace velor

@@ -25,7 +25,7 @@ bool isUnused(const TLatka& record, std::int16_t mode) {
 
 std::int16_t loadComponents(State& state) {
     if (state.definition.Nacteno == Definition::kNacteno) return state.definition.PocSlozek;
-    if (state.place.AdresaBaze.empty()) locateDatabase(state);
+    if (state.place.AdresaBaze.empty()) locateDatabase(state.place, state.messages);
     state.definition.PocSlozek = leadingComponents(state.definition.slots);
     const RecordFile database(state.place.AdresaBaze);
     for (int i = 1; i <= state.definition.PocSlozek; ++i) {

@@ -12,6 +12,6 @@ namespace velor {
 std::int16_t loadComponents(State& state);
 
 // The 30 characters of component i's name; an empty text for an empty slot.
-std::string componentName(const State& state, int i);
+std::string componentName(const ComponentSlots& slots, int i);
 
 }  // namespace velor

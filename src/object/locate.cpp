@@ -24,76 +24,76 @@ std::string fileNamePart(const std::string& path) {
 }
 
 // A path that ends in "#" names a database whose file name differs from the usual one.
-void adoptOtherFileName(State& state) {
-    std::string name = fileNamePart(state.place.AdresaBaze);
-    if (!name.ends_with('#') || equalIgnoringCase(name, state.place.DataFileName)) return;
+void adoptOtherFileName(DatabasePlace& place) {
+    std::string name = fileNamePart(place.AdresaBaze);
+    if (!name.ends_with('#') || equalIgnoringCase(name, place.DataFileName)) return;
     name.pop_back();
-    state.place.AdresaBaze.pop_back();
-    state.place.DataFileName = name;
+    place.AdresaBaze.pop_back();
+    place.DataFileName = name;
 }
 
-void offerToDeleteConfiguration(State& state) {
-    const std::string text = "Soubor " + state.place.CFGName + " nejspíše v adresáři " + state.place.CFGPath +
-                             kLineBreak + " obsahuje odkaz na neexistující soubor " + state.place.DataFileName + "!!!" +
-                             kLineBreak + "Smažte soubor " + state.place.CFGName + " a znovu spusťte program." +
-                             kLineBreak + "Mám ho smazat sám? (Y/N)";
-    if (show(state.messages, text, Icon::Exclamation, "VELOR", Buttons::YesNo) == Answer::Yes)
-        platform::deleteFile(state.place.CFGPath + state.place.CFGName);
+void offerToDeleteConfiguration(const DatabasePlace& place, const Messages& messages) {
+    const std::string text = "Soubor " + place.CFGName + " nejspíše v adresáři " + place.CFGPath + kLineBreak +
+                             " obsahuje odkaz na neexistující soubor " + place.DataFileName + "!!!" + kLineBreak +
+                             "Smažte soubor " + place.CFGName + " a znovu spusťte program." + kLineBreak +
+                             "Mám ho smazat sám? (Y/N)";
+    if (show(messages, text, Icon::Exclamation, "VELOR", Buttons::YesNo) == Answer::Yes)
+        platform::deleteFile(place.CFGPath + place.CFGName);
 }
 
-void offerToDeleteDatabase(State& state, const std::string& path, std::int64_t size) {
+void offerToDeleteDatabase(const Messages& messages, const std::string& path, std::int64_t size) {
     // No blank stands between the path and "má", as built.
     const std::string text = "Soubor " + path + "má příliš malou délku (" + std::to_string(size) + ") nebo je nulový." +
                              kLineBreak + "Smazat ho ? (Y/N)";
-    if (show(state.messages, text, Icon::None, "VELOR", Buttons::YesNo) == Answer::Yes) platform::deleteFile(path);
+    if (show(messages, text, Icon::None, "VELOR", Buttons::YesNo) == Answer::Yes) platform::deleteFile(path);
 }
 
-void checkDatabase(State& state) {
-    const std::string entry = platform::fileName(state.place.AdresaBaze);
-    if (entry.empty() || !equalIgnoringCase(entry, state.place.DataFileName)) {
-        state.place.AdresaBaze.clear();
-        offerToDeleteConfiguration(state);
+void checkDatabase(DatabasePlace& place, const Messages& messages) {
+    const std::string entry = platform::fileName(place.AdresaBaze);
+    if (entry.empty() || !equalIgnoringCase(entry, place.DataFileName)) {
+        place.AdresaBaze.clear();
+        offerToDeleteConfiguration(place, messages);
         return;
     }
-    const std::int64_t size = platform::ReadOnlyFile(state.place.AdresaBaze).size();
-    if (size < kLeastDatabaseSize) offerToDeleteDatabase(state, std::exchange(state.place.AdresaBaze, {}), size);
+    const std::int64_t size = platform::ReadOnlyFile(place.AdresaBaze).size();
+    if (size < kLeastDatabaseSize) offerToDeleteDatabase(messages, std::exchange(place.AdresaBaze, {}), size);
 }
 
-std::string searchVolumes(const State& state) {
-    const std::vector<std::string> volumes = state.place.volumes ? *state.place.volumes : platform::volumes();
+std::string searchVolumes(const DatabasePlace& place) {
+    const std::vector<std::string> volumes = place.volumes ? *place.volumes : platform::volumes();
     for (const char* subfolder : {"VELOR", ""}) {
         for (const std::string& volume : volumes) {
-            const auto hits = findFiles(volume + subfolder, "*", state.place.DataFileName);
+            const auto hits = findFiles(volume + subfolder, "*", place.DataFileName);
             if (!hits.empty()) return hits.front();
         }
     }
     return {};
 }
 
-void searchAndConfigure(State& state) {
-    show(state.messages,
-         "Budu nyní hledat datový soubor " + state.place.DataFileName + " na všech pevných discích" + kLineBreak +
+void searchAndConfigure(DatabasePlace& place, const Messages& messages) {
+    show(messages,
+         "Budu nyní hledat datový soubor " + place.DataFileName + " na všech pevných discích" + kLineBreak +
              "Může to trvat i několik minut! Stiskněte OK a vyčkejte.",
          Icon::Information, "Instalace VELOR");
-    const std::string found = searchVolumes(state);
+    const std::string found = searchVolumes(place);
     if (found.empty()) {
-        show(state.messages,
+        show(messages,
              std::string("Lituji, ale nemáte nikde na dostupných discích") + kLineBreak +
-                 "nainstalován datový soubor báze " + state.place.DataFileName + kLineBreak +
+                 "nainstalován datový soubor báze " + place.DataFileName + kLineBreak +
                  "Zajistěte jeho nainstalování!" + kLineBreak + "Bez něho je báze nefunkční!",
              Icon::Critical);
         return;
     }
     // Kept before the CFG file is written: where that cannot be done the search was not in vain.
-    state.place.AdresaBaze = found;
-    writeConfiguredPath(state.place.CFGPath + state.place.CFGName, found);
+    place.AdresaBaze = found;
+    writeConfiguredPath(place.CFGPath + place.CFGName, found);
 }
 
 // Whether the CFG file could be read.
-bool readConfiguration(State& state) {
+bool readConfiguration(DatabasePlace& place) {
     try {
-        const std::string path = readConfiguredPath(state.place.CFGPath + state.place.CFGName);
-        if (!path.empty()) state.place.AdresaBaze = path;
+        const std::string path = readConfiguredPath(place.CFGPath + place.CFGName);
+        if (!path.empty()) place.AdresaBaze = path;
         return true;
     } catch (const RunTimeError& error) {
         if (error.number() != RunTimeError::kFileNotFound && error.number() != RunTimeError::kPathNotFound) throw;
@@ -103,22 +103,22 @@ bool readConfiguration(State& state) {
 
 }  // namespace
 
-void locateDatabase(State& state) {
+void locateDatabase(DatabasePlace& place, const Messages& messages) {
     try {
-        if (!readConfiguration(state)) {
-            searchAndConfigure(state);
+        if (!readConfiguration(place)) {
+            searchAndConfigure(place, messages);
             return;
         }
-        adoptOtherFileName(state);
-        checkDatabase(state);
+        adoptOtherFileName(place);
+        checkDatabase(place, messages);
     } catch (const RunTimeError& error) {
-        show(state.messages, "Chyba č. " + std::to_string(error.number()) + " : " + error.description(),
-             Icon::Exclamation, "VELOR Adrvlr");
-        if (state.messages.ChyboveHlasky == -1)
+        show(messages, "Chyba č. " + std::to_string(error.number()) + " : " + error.description(), Icon::Exclamation,
+             "VELOR Adrvlr");
+        if (messages.ChyboveHlasky == -1)
             raiseToHost("VELOR - Adrvlr", "Chyba při zjišťování umístění datového souboru!");
     }
 }
 
-void Smes::Adrvlr() { locateDatabase(*state_); }
+void Smes::Adrvlr() { locateDatabase(state_->place, state_->messages); }
 
 }  // namespace velor

@@ -8,6 +8,10 @@ Answer show(const Messages& messages, std::string text, Icon icon, std::string t
     return messages.userInterface->showMessage({std::move(text), icon, std::move(title), buttons});
 }
 
+void showUnlessSilent(const Messages& messages, std::string text, Icon icon, std::string title) {
+    if (messages.ChyboveHlasky < 2) show(messages, std::move(text), icon, std::move(title));
+}
+
 void showCounted(Messages& messages, std::string text, Icon icon, std::string title) {
     show(messages, std::move(text), icon, std::move(title));
     ++messages.PocHlasek;

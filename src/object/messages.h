@@ -21,6 +21,9 @@ struct Messages {
 Answer show(const Messages& messages, std::string text, Icon icon, std::string title = "VELOR",
             Buttons buttons = Buttons::Ok);
 
+// The same in every mode but 2, whatever the budget.
+void showUnlessSilent(const Messages& messages, std::string text, Icon icon, std::string title = "VELOR");
+
 // Whether a message of the correlation engine is due: modes -1 and 0, budget not spent.
 inline bool engineMessageIsDue(const Messages& messages) {
     return messages.ChyboveHlasky < 1 && messages.PocHlasek < messages.MaxErrHlas;

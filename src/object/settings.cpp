@@ -6,19 +6,10 @@
 #include "object/state.h"
 #include "platform/file_system.h"
 #include "platform/system.h"
-#include "records/constant_table.h"
 #include "runtime/numbers.h"
 #include "velor/smes.h"
 
 namespace velor {
-
-namespace {
-
-bool addressesBlock(const State& state, int i, int k) {
-    return i >= 1 && i <= state.definition.PocSlozek && k >= 1 && k <= TLatka::kCorrelations;
-}
-
-}  // namespace
 
 std::string Smes::DataFileName() const { return state_->place.DataFileName; }
 void Smes::DataFileName(const std::string& name) {
@@ -34,7 +25,7 @@ std::string Smes::CFGName() const { return state_->place.CFGName; }
 void Smes::CFGName(const std::string& name) { state_->place.CFGName = name; }
 
 std::string Smes::AdrVELOR() {
-    if (state_->place.AdresaBaze.empty()) locateDatabase(*state_);
+    if (state_->place.AdresaBaze.empty()) locateDatabase(state_->place, state_->messages);
     return state_->place.AdresaBaze;
 }
 void Smes::AdrVELOR(const std::string& path) { state_->place.AdresaBaze = path; }
@@ -63,54 +54,5 @@ int Smes::MezeTeplot() const { return state_->settings.MezeTeplot; }
 
 std::string Smes::SNazev() const { return state_->settings.SNazev; }
 void Smes::SNazev(const std::string& caption) { state_->settings.SNazev = caption; }
-
-float Smes::VLRConst(int i, int k, int j) const {
-    checkedInt16(i), checkedInt16(k), checkedInt16(j);
-    if (!addressesBlock(*state_, i, k)) return kNoConstant;
-    const TKorelace& block = state_->definition.slots.Latka(i).Korelace[static_cast<std::size_t>(k - 1)];
-    switch (j) {
-        case 7:
-            return block.Typ;
-        case 8:
-            return block.Priznak;
-        case 9:
-            return block.Tmin;
-        case 10:
-            return block.Tmax;
-        default:
-            break;
-    }
-    if (j < 1 || j > 6) return 0;
-    const float coefficient = block.A[static_cast<std::size_t>(j - 1)];
-    checked::finite(coefficient);
-    return coefficient;
-}
-
-void Smes::VLRConst(int i, int k, int j, const Variant& value) {
-    checkedInt16(i), checkedInt16(k), checkedInt16(j);
-    const float number = value.toSingle();
-    if (!addressesBlock(*state_, i, k)) {
-        show(state_->messages, "VLRConst( ) - chybné zadání!", Icon::Exclamation);
-        return;
-    }
-    if (j < 1 || j > 10) return;
-    TKorelace& block = state_->definition.slots.change(i).Korelace[static_cast<std::size_t>(k - 1)];
-    switch (j) {
-        case 7:
-            block.Typ = roundToInt16(number);
-            break;
-        case 8:
-            block.Priznak = roundToInt16(number);
-            break;
-        case 9:
-            block.Tmin = roundToInt16(number);
-            break;
-        case 10:
-            block.Tmax = roundToInt16(number);
-            break;
-        default:
-            block.A[static_cast<std::size_t>(j - 1)] = number;
-    }
-}
 
 }  // namespace velor

@@ -213,7 +213,7 @@ class Flash {
 
     void appendResults() {
         std::vector<std::string> names;
-        for (int i = 1; i <= static_cast<int>(n_); ++i) names.push_back(componentName(state_, i));
+        for (int i = 1; i <= static_cast<int>(n_); ++i) names.push_back(componentName(state_.definition.slots, i));
         report_ += flashReport({T0_, found_.temperature, state_.last.flashPressure, P_}, found_, names);
     }
 

@@ -114,7 +114,7 @@ std::string_view propertyName(int k) {
 }
 
 Variant Smes::FFce(const Variant& T, int i, int k) {
-    checkedInt16(i), checkedInt16(k);
+    requireInt16({i, k});
     if (!exists(*state_, i, k) && rejects(*state_, i, k)) return 0.0;
     return valueOf(*state_, [&]() -> std::optional<double> { return evaluate(*state_, T.toDouble(), i, k); });
 }

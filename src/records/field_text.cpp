@@ -35,13 +35,12 @@ std::string hexadecimalText(std::uint32_t value, std::size_t digits) {
     return text;
 }
 
-std::string readBits(std::string_view digits, float& value) {
+Parsed<float> readBits(std::string_view digits) {
     const std::optional<std::uint32_t> bits =
         digits.size() == kSingleDigits ? hexadecimal(digits) : std::optional<std::uint32_t>();
     if (!bits || std::isfinite(std::bit_cast<float>(*bits)))
-        return "za # má být osm šestnáctkových číslic hodnoty, která není konečné číslo";
-    value = std::bit_cast<float>(*bits);
-    return {};
+        return Fault{"za # má být osm šestnáctkových číslic hodnoty, která není konečné číslo"};
+    return std::bit_cast<float>(*bits);
 }
 
 bool isZeroOnPaper(std::string_view number) {
@@ -49,15 +48,14 @@ bool isZeroOnPaper(std::string_view number) {
 }
 
 template <typename Integer>
-std::string readWholeNumber(std::string_view text, Integer& value) {
+Parsed<Integer> readWholeNumber(std::string_view text) {
     Integer number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (error == std::errc::invalid_argument || end != text.data() + text.size())
-        return quoted(text) + " není celé číslo";
+        return Fault{quoted(text) + " není celé číslo"};
     if (error == std::errc::result_out_of_range)
-        return quoted(text) + " se nevejde do " + std::to_string(8 * sizeof(Integer)) + " bitů";
-    value = number;
-    return {};
+        return Fault{quoted(text) + " se nevejde do " + std::to_string(8 * sizeof(Integer)) + " bitů"};
+    return number;
 }
 
 // Takes one character or escape off the text; empty where it stands for no byte.
@@ -81,19 +79,18 @@ std::optional<char> takeByte(std::string_view& text) {
 
 }  // namespace
 
-std::string readSingle(std::string_view text, float& value) {
-    if (text.starts_with(kBitsMark)) return readBits(text.substr(1), value);
+Parsed<float> readSingle(std::string_view text) {
+    if (text.starts_with(kBitsMark)) return readBits(text.substr(1));
     float number = 0;
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error == std::errc::invalid_argument || end != text.data() + text.size())
-        return quoted(text) + (text.find(',') == std::string_view::npos
-                                   ? " není číslo"
-                                   : " není číslo (desetinná místa odděluje tečka)");
+    if (error == std::errc::invalid_argument || end != text.data() + text.size()) {
+        const bool hasComma = text.find(',') != std::string_view::npos;
+        return Fault{quoted(text) + (hasComma ? " není číslo (desetinná místa odděluje tečka)" : " není číslo")};
+    }
     if (error == std::errc::result_out_of_range || (number == 0 && !isZeroOnPaper(text)))
-        return quoted(text) + " se nevejde do jednoduché přesnosti";
-    if (!std::isfinite(number)) return quoted(text) + " není konečné číslo";
-    value = number;
-    return {};
+        return Fault{quoted(text) + " se nevejde do jednoduché přesnosti"};
+    if (!std::isfinite(number)) return Fault{quoted(text) + " není konečné číslo"};
+    return number;
 }
 
 std::string singleText(const float& value) {
@@ -102,8 +99,7 @@ std::string singleText(const float& value) {
     return {buffer, std::to_chars(buffer, buffer + sizeof buffer, value).ptr};
 }
 
-std::string readInteger(std::string_view text, std::int16_t& value) { return readWholeNumber(text, value); }
-std::string readInteger(std::string_view text, std::int32_t& value) { return readWholeNumber(text, value); }
+Parsed<std::int16_t> readInteger(std::string_view text) { return readWholeNumber<std::int16_t>(text); }
 
 bool hasCasForm(std::string_view text) {
     constexpr std::size_t kTail = 5;  // "-18-5"
@@ -124,16 +120,15 @@ bool hasCasCheckDigit(std::string_view cas) {
     return sum % 10 == cas.back() - '0';
 }
 
-std::string readCas(std::string_view text, std::int32_t& value) {
-    if (!hasCasForm(text)) {
-        std::int32_t number = 0;
-        if (!readInteger(text, number).empty()) return quoted(text) + " nemá tvar 7732-18-5";
-        value = number;
-        return {};
-    }
+Parsed<std::int32_t> readCas(std::string_view text) {
     std::string digits(text);
-    std::erase(digits, '-');
-    return readInteger(digits, value);
+    if (hasCasForm(text)) {
+        std::erase(digits, '-');
+        return readWholeNumber<std::int32_t>(digits);
+    }
+    Parsed<std::int32_t> number = readWholeNumber<std::int32_t>(digits);
+    if (std::holds_alternative<Fault>(number)) return Fault{quoted(text) + " nemá tvar 7732-18-5"};
+    return number;
 }
 
 std::string registryText(std::int32_t value) {
@@ -142,21 +137,24 @@ std::string registryText(std::int32_t value) {
     return value >= kLeast ? casText(digits) : digits;
 }
 
-std::string readBytes(std::string_view text, std::size_t width, std::string& bytes) {
+Parsed<std::string> readBytes(std::string_view text, std::size_t width) {
     std::string encoded;
     while (!text.empty()) {
         const std::string_view before = text;
         const std::optional<char> byte = takeByte(text);
-        if (!byte && before.starts_with(kEscape)) return quoted(before) + ": zpětné lomítko se píše \\\\ a bajt \\xNN";
-        if (!byte)
-            return "znak " + quoted(before.substr(0, before.size() - text.size())) + " není v kódování Windows-1250";
+        if (!byte && before.starts_with(kEscape))
+            return Fault{quoted(before) + ": zpětné lomítko se píše \\\\ a bajt \\xNN"};
+        if (!byte) {
+            const std::string character = quoted(before.substr(0, before.size() - text.size()));
+            return Fault{"znak " + character + " není v kódování Windows-1250"};
+        }
         encoded += *byte;
     }
-    if (encoded.size() > width)
-        return "text má " + std::to_string(encoded.size()) + " znaků, vejde se jich " + std::to_string(width);
+    if (encoded.size() > width) {
+        return Fault{"text má " + std::to_string(encoded.size()) + " znaků, vejde se jich " + std::to_string(width)};
+    }
     encoded.resize(width, ' ');
-    bytes = encoded;
-    return {};
+    return encoded;
 }
 
 bool isControlByte(char byte) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,6 +14,7 @@ std::int16_t roundToInt16(double value);
 
 // A 16-bit argument that arrives as int: beyond the range is error 6.
 std::int16_t checkedInt16(int value);
+void requireInt16(std::initializer_list<int> values);
 
 // The longest number at the start of the text: leading blanks, sign, digits with one ".", exponent. Reading stops at
 // the first character that cannot continue it; 0 where there is none. Beyond double precision is error 6.

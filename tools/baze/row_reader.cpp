@@ -1,42 +1,35 @@
 #include "baze/row_reader.h"
 
 #include <cmath>
-
-#include "records/field_text.h"
+#include <utility>
 
 namespace velor::baze {
 
+template <class Value>
+std::optional<Value> RowReader::taken(std::string_view column, Parsed<Value> parsed) {
+    if (auto* value = std::get_if<Value>(&parsed)) return std::move(*value);
+    fault(column, std::get<Fault>(parsed).reason);
+    return std::nullopt;
+}
+
 std::optional<float> RowReader::single(std::string_view column, float whenEmpty) {
-    float value = whenEmpty;
-    if (cell(column).empty()) return value;
-    if (const std::string reason = readSingle(cell(column), value); !reason.empty()) {
-        fault(column, reason);
-        return std::nullopt;
-    }
-    if (!std::isfinite(value)) doubt(column, "hodnota není konečné číslo");
+    if (cell(column).empty()) return whenEmpty;
+    const std::optional<float> value = taken(column, readSingle(cell(column)));
+    if (value && !std::isfinite(*value)) doubt(column, "hodnota není konečné číslo");
     return value;
 }
 
 std::optional<std::int16_t> RowReader::integer(std::string_view column, std::optional<std::int16_t> whenEmpty) {
-    if (cell(column).empty()) {
-        if (!whenEmpty) fault(column, "hodnota chybí");
-        return whenEmpty;
-    }
-    std::int16_t value = 0;
-    const std::string reason = readInteger(cell(column), value);
-    if (reason.empty()) return value;
-    fault(column, reason);
-    return std::nullopt;
+    if (!cell(column).empty()) return taken(column, readInteger(cell(column)));
+    if (!whenEmpty) fault(column, "hodnota chybí");
+    return whenEmpty;
 }
 
 std::optional<std::int32_t> RowReader::registryNumber(std::string_view column) {
     const std::string_view text = cell(column);
-    std::int32_t value = 0;
-    if (text.empty()) return value;
-    if (const std::string reason = readCas(text, value); !reason.empty()) {
-        fault(column, reason);
-        return std::nullopt;
-    }
+    if (text.empty()) return 0;
+    const std::optional<std::int32_t> value = taken(column, readCas(text));
+    if (!value) return std::nullopt;
     if (!hasCasForm(text)) {
         doubt(column, quoted(text) + " nemá tvar 7732-18-5");
     } else if (!hasCasCheckDigit(text)) {
@@ -46,11 +39,7 @@ std::optional<std::int32_t> RowReader::registryNumber(std::string_view column) {
 }
 
 std::optional<std::string> RowReader::bytes(std::string_view column, std::size_t width) {
-    std::string value;
-    const std::string reason = readBytes(cell(column), width, value);
-    if (reason.empty()) return value;
-    fault(column, reason);
-    return std::nullopt;
+    return taken(column, readBytes(cell(column), width));
 }
 
 std::optional<int> RowReader::recordNumber(std::string_view column) {

@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "baze/csv_table.h"
+#include "records/field_text.h"
 
 namespace velor::baze {
 
@@ -31,6 +32,10 @@ class RowReader {
     void doubt(std::string_view column, std::string_view reason);
 
   private:
+    // The value, or nothing and a fault of the column.
+    template <class Value>
+    std::optional<Value> taken(std::string_view column, Parsed<Value> parsed);
+
     const CsvTable& table_;
     const CsvRow& row_;
     Checks checks_;
