@@ -2,12 +2,14 @@
 
 #include <dirent.h>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
+#include <filesystem>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -89,17 +91,80 @@ void writeAll(int descriptor, std::string_view content) {
     }
 }
 
-// A new file beside the path, created with the permissions of any new file.
-std::pair<int, std::string> createTemporary(const std::string& path) {
-    constexpr int kAttempts = 100;  // as many leftovers of killed processes are stepped over
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        const std::string name = path + "." + std::to_string(::getpid()) + "-" + std::to_string(attempt);
-        const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-        if (descriptor >= 0) return {descriptor, name};
-        if (errno != EEXIST) raiseFileError(errno, path);
-    }
-    checked::raise(RunTimeError::kPathFileAccess);
+// The file that the path means in the end; a link to nothing names the file that it would lead to.
+std::string behindLinks(const std::string& path) {
+    constexpr int kMostLinks = 40;  // as many as the system follows
+    std::filesystem::path target = path;
+    std::error_code error;
+    for (int links = 0; links < kMostLinks && std::filesystem::is_symlink(target, error); ++links)
+        target = target.parent_path() / std::filesystem::read_symlink(target, error);
+    return target.string();
 }
+
+// A new file beside the one that it will replace, gone with the object unless it has taken the other's place. Its name
+// is one of few, held by a lock that ends with the process: what a killed one left behind is used again.
+class Replacement {
+  public:
+    explicit Replacement(const std::string& path) : path_(path), file_(open()) {}
+    ~Replacement() {
+        if (!name_.empty()) ::unlink(name_.c_str());
+    }
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+
+    void fill(std::string_view content) const {
+        if (::ftruncate(file_.get(), 0) != 0) checked::raise(RunTimeError::kPathFileAccess);
+        writeAll(file_.get(), content);
+    }
+    // With the permissions of the file replaced, but none that would lend its owner's rights.
+    void takePlace() {
+        const auto replaced = statusOf(path_);
+        if (replaced && ::fchmod(file_.get(), replaced->st_mode & 0777U) != 0) raiseFileError(errno, path_);
+        if (::fsync(file_.get()) != 0) checked::raise(RunTimeError::kPathFileAccess);
+        if (std::rename(name_.c_str(), path_.c_str()) != 0) raiseFileError(errno, path_);
+        name_.clear();
+    }
+
+  private:
+    int open() {
+        constexpr int kNames = 100;  // as many may write at once
+        for (int number = 0; number < kNames; ++number) {
+            std::string name = path_ + ".velor-" + std::to_string(number);
+            const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666);
+            if (descriptor < 0 && !::faccessat(AT_FDCWD, name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW)) continue;
+            if (descriptor < 0) raiseFileError(errno, path_);
+            if (isOurs(descriptor, name)) {
+                name_ = std::move(name);
+                return descriptor;
+            }
+            ::close(descriptor);
+        }
+        checked::raise(RunTimeError::kPathFileAccess);
+    }
+
+    // Nobody else writes it, and it has not become the file itself in the meantime.
+    static bool isOurs(int descriptor, const std::string& name) {
+        struct stat opened {
+        }, named{};
+        return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::fstat(descriptor, &opened) == 0 &&
+               S_ISREG(opened.st_mode) && opened.st_nlink == 1 && opened.st_uid == ::geteuid() &&
+               ::lstat(name.c_str(), &named) == 0 && named.st_ino == opened.st_ino && named.st_dev == opened.st_dev;
+    }
+
+    std::string path_;
+    std::string name_;
+    Descriptor file_;
+};
+
+// Where the folder takes no new file there is no other way.
+void overwrite(const std::string& path, std::string_view content) {
+    const int descriptor = ::open(path.c_str(), O_WRONLY | O_TRUNC | O_CLOEXEC | O_NOFOLLOW);
+    if (descriptor < 0) raiseFileError(errno, path);
+    const Descriptor file(descriptor);
+    writeAll(file.get(), content);
+}
+
+bool takesNoNewFile(const std::string& folder) { return ::access(folder.c_str(), W_OK) != 0; }
 
 // Null for what is no folder, may not be read, or is a link. A separator at the end would make the system follow the
 // link, so it is taken off.
@@ -164,18 +229,12 @@ void deleteFile(const std::string& path) {
 
 void replaceFile(const std::string& path, std::string_view content) {
     checkPath(path);
-    const auto [descriptor, temporary] = createTemporary(path);
-    const Descriptor file(descriptor);
-    try {
-        writeAll(file.get(), content);
-        const auto replaced = statusOf(path);
-        if (replaced && ::fchmod(file.get(), replaced->st_mode & 07777U) != 0) raiseFileError(errno, path);
-        if (::fsync(file.get()) != 0) checked::raise(RunTimeError::kPathFileAccess);
-        if (std::rename(temporary.c_str(), path.c_str()) != 0) raiseFileError(errno, path);
-    } catch (const RunTimeError&) {
-        ::unlink(temporary.c_str());
-        throw;
-    }
+    const std::string target = behindLinks(path);
+    const auto status = statusOf(target);
+    if (status && S_ISREG(status->st_mode) && takesNoNewFile(folderOf(target))) return overwrite(target, content);
+    Replacement replacement(target);
+    replacement.fill(content);
+    replacement.takePlace();
 }
 
 std::vector<FolderEntry> listFolder(const std::string& folder) {

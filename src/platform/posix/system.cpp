@@ -29,6 +29,8 @@ using MountTable = std::unique_ptr<FILE, decltype([](FILE* table) { endmntent(ta
 constexpr const char* kDevicelessStores[] = {"nfs", "nfs4",       "cifs", "smb3",    "overlay",
                                              "zfs", "fuse.sshfs", "9p",   "virtiofs"};
 
+constexpr std::size_t kMostOfMount = 65536;  // bytes of a line: two paths and many options
+
 // Types that /proc/filesystems marks "nodev": kernel views, not stores.
 std::set<std::string> virtualFileSystems() {
     std::set<std::string> types;
@@ -78,9 +80,11 @@ std::vector<std::string> volumes() {
     const std::set<std::string> ignored = virtualFileSystems();
     std::set<std::string> mountPoints{"/"};
     if (const MountTable table{setmntent("/proc/self/mounts", "r")}) {
-        while (const mntent* mount = getmntent(table.get())) {
-            const std::string folder = mount->mnt_dir;
-            if (!ignored.contains(mount->mnt_type) && isFolder(folder))
+        std::vector<char> line(kMostOfMount);
+        mntent mount{};
+        while (getmntent_r(table.get(), &mount, line.data(), static_cast<int>(line.size()))) {
+            const std::string folder = mount.mnt_dir;
+            if (!ignored.contains(mount.mnt_type) && isFolder(folder))
                 mountPoints.insert(folder.back() == kPathSeparator ? folder : folder + kPathSeparator);
         }
     }

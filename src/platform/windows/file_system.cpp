@@ -100,18 +100,35 @@ void writeAll(HANDLE file, std::string_view content) {
     if (!FlushFileBuffers(file)) checked::raise(RunTimeError::kPathFileAccess);
 }
 
-// A new file beside the path.
-std::pair<File, std::wstring> createTemporary(const std::wstring& path) {
-    constexpr int kAttempts = 100;  // as many leftovers of killed processes are stepped over
-    for (int attempt = 0; attempt < kAttempts; ++attempt) {
-        std::wstring name = path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(attempt);
-        const HANDLE file =
-            CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr);
-        if (file != INVALID_HANDLE_VALUE) return {File(file), std::move(name)};
-        if (GetLastError() != ERROR_FILE_EXISTS) raiseFileError(GetLastError());
+// A new file beside the one that it will replace, gone with the object unless it was moved there. Its name belongs to
+// this thread, so that what a killed program left behind under it may be written over.
+class Replacement {
+  public:
+    explicit Replacement(const std::wstring& path)
+        : name_(path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(GetCurrentThreadId())),
+          file_(CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)) {
+        if (file_.get() != INVALID_HANDLE_VALUE) return;
+        file_.release();
+        raiseFileError(GetLastError());
     }
-    checked::raise(RunTimeError::kPathFileAccess);
-}
+    ~Replacement() {
+        file_.reset();
+        DeleteFileW(name_.c_str());
+    }
+    Replacement(const Replacement&) = delete;
+    Replacement& operator=(const Replacement&) = delete;
+
+    HANDLE file() const { return file_.get(); }
+    // The file closed, its name.
+    const std::wstring& closed() {
+        file_.reset();
+        return name_;
+    }
+
+  private:
+    std::wstring name_;
+    File file_;
+};
 
 void moveOver(const std::wstring& from, const std::wstring& to) {
     // Readers, virus scanners and indexers hold a file for moments.
@@ -196,16 +213,9 @@ void deleteFile(const std::string& path) {
 void replaceFile(const std::string& path, std::string_view content) {
     const QuietDrives quiet;
     const std::wstring name = widePath(path);
-    auto [file, temporary] = createTemporary(name);
-    try {
-        writeAll(file.get(), content);
-        file.reset();
-        moveOver(temporary, name);
-    } catch (const RunTimeError&) {
-        file.reset();
-        DeleteFileW(temporary.c_str());
-        throw;
-    }
+    Replacement replacement(name);
+    writeAll(replacement.file(), content);
+    moveOver(replacement.closed(), name);
 }
 
 std::vector<FolderEntry> listFolder(const std::string& folder) {
