@@ -33,7 +33,7 @@ std::optional<TLatka> F_Zmenaz::changed() {
         for (int field = 0; field < kFields; ++field)
             if (boxAt(T_Pole, field).text != boxAt(filled_, field)) readField(boxAt(T_Pole, field).text, field, record);
     } catch (const InvalidField& error) {
-        if (showExclamation) showExclamation(error.what());
+        raiseEvent(showExclamation, error.what());
         focus = {Focus::Control::Value, error.field()};
         return std::nullopt;
     }
@@ -43,7 +43,7 @@ std::optional<TLatka> F_Zmenaz::changed() {
 void F_Zmenaz::clickC_OK() {
     const std::optional<TLatka> record = changed();
     if (!record) return;
-    if (Ulozit) Ulozit(*record);
+    raiseEvent(Ulozit, *record);
     visible = false;
 }
 

@@ -52,8 +52,15 @@ std::string valueText(Smes& smes, double T, int i, int k) {
 class BorrowedBlock {
   public:
     BorrowedBlock(State& state, int i, int k, const TKorelace& block)
-        : state_(state), i_(i), k_(static_cast<std::size_t>(k - 1)), own_(std::exchange(place(), block)) {}
-    ~BorrowedBlock() { place() = own_; }
+        : state_(state),
+          i_(i),
+          k_(static_cast<std::size_t>(k - 1)),
+          borrowed_(block),
+          own_(std::exchange(place(), block)) {}
+    // Unless a message box has led the host to load or change the component meanwhile.
+    ~BorrowedBlock() {
+        if (place() == borrowed_) place() = own_;
+    }
     BorrowedBlock(const BorrowedBlock&) = delete;
     BorrowedBlock& operator=(const BorrowedBlock&) = delete;
 
@@ -63,7 +70,7 @@ class BorrowedBlock {
     State& state_;
     int i_;
     std::size_t k_;
-    TKorelace own_;
+    TKorelace borrowed_, own_;
 };
 
 void fill(frmLatka& form, const State& state, int i) {

@@ -36,9 +36,10 @@ void frmOprav::showValues() {
     HodnotaPo.clear();
     const std::optional<double> T = typedTemperature(T_Teplota.text);
     if (!T || !valueText) return;
-    HodnotaPred = valueText(index + 1, boxAt(record_.Korelace, index), *T);
+    const auto text = valueText;  // a copy, as in raiseEvent
+    HodnotaPred = text(index + 1, boxAt(record_.Korelace, index), *T);
     try {
-        HodnotaPo = valueText(index + 1, typedBlock(index), *T);
+        HodnotaPo = text(index + 1, typedBlock(index), *T);
     } catch (const InvalidField&) {
         HodnotaPo.clear();
     }
@@ -78,12 +79,12 @@ TKorelace frmOprav::typedBlock(int index) const {
 }
 
 void frmOprav::complain(int field, const std::string& text) {
-    if (showExclamation) showExclamation(text);
+    raiseEvent(showExclamation, text);
     focus = {Focus::Control::Value, field};
 }
 
 void frmOprav::clickC_Vypocet() {
-    if (!typedTemperature(T_Teplota.text) && showExclamation) showExclamation(std::string(kTemperatureComplaint));
+    if (!typedTemperature(T_Teplota.text)) raiseEvent(showExclamation, std::string(kTemperatureComplaint));
     showValues();
     try {
         typedBlock(L_Vlast.selected);
@@ -102,7 +103,7 @@ void frmOprav::clickC_OK() {
             return complain(error.field(), std::string(propertyName(index + 1)) + ", " + error.what());
         }
     }
-    if (Ulozit) Ulozit(record);
+    raiseEvent(Ulozit, record);
     visible = false;
 }
 

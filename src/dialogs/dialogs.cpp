@@ -39,16 +39,16 @@ std::vector<std::string> linesInOrder(State& state) {
     return lines;
 }
 
-// Fills the form's list; the count of the lines found, the line that tells a failure included.
-int fillWithHits(State& state, const std::vector<std::string>& lines) {
+// The lines that hold the text asked for, or one line that tells the failure.
+std::vector<std::string> askedLines(const State& state, const std::vector<std::string>& lines) {
     const std::string answer =
         state.messages.userInterface->askText({"Vložte název nebo část názvu hledané látky (bez *, %):", "VELOR", ""});
     const std::string wanted = withoutAsterisk(upperCase(answer));
-    std::vector<std::string>& items = formsOf(state).list->L_Sezn.items;
+    std::vector<std::string> hits;
     for (const std::string& line : lines)
-        if (upperCase(line).find(wanted) != std::string::npos) items.push_back(line);
-    if (items.empty()) items.push_back("Látka  " + wanted + "  nenalezena!!!");
-    return static_cast<int>(items.size());
+        if (upperCase(line).find(wanted) != std::string::npos) hits.push_back(line);
+    if (hits.empty()) hits.push_back("Látka  " + wanted + "  nenalezena!!!");
+    return hits;
 }
 
 }  // namespace
@@ -68,18 +68,20 @@ void Smes::SeznamShow(const Variant& mode) {
     state.list.RezimSeznamu = mode.isMissing() ? std::int16_t{-1} : mode.toInt16();
     if (state.list.SeznamLatek.empty()) rebuildSubstanceList(state);
     const std::vector<std::string> lines = linesInOrder(state);
-    F_Sezn& form = *formsOf(state).list;
-    form.L_Sezn = {};
-    int counter = 1;
+    std::vector<std::string> shown;
     if (state.list.RezimSeznamu == kSearch) {
-        counter = fillWithHits(state, lines);
+        shown = askedLines(state, lines);
     } else if (state.list.RezimSeznamu < kSearch) {
-        form.L_Sezn.items = lines;
+        shown = lines;
     }
+    // Whoever answers may have renewed the form, and may do so while it is shown.
+    const std::shared_ptr<F_Sezn> held = formsOf(state).list;
+    F_Sezn& form = *held;
     form.Nadpis_1 = "SEZNAM LÁTEK DATABÁZE  V E L O R   " + platform::shortDate();
-    form.Nadpis_2 = "Počet zahrnutých látek  " + Format(state.list.PocLatek, "#0");
+    form.Nadpis_2 = state.list.RezimSeznamu == kSearch ? "k zadání nalezeno " + std::to_string(shown.size()) + " látek"
+                                                       : "Počet zahrnutých látek  " + Format(state.list.PocLatek, "#0");
+    form.L_Sezn = {std::move(shown), -1};
     if (!form.L_Sezn.items.empty()) form.L_Sezn.selected = 0;
-    if (state.list.RezimSeznamu == kSearch) form.Nadpis_2 = "k zadání nalezeno " + std::to_string(counter) + " látek";
     form.zavrit = [this] { mSeznam_zavrit(); };
     form.visible = true;
     state.messages.userInterface->showForm(form);

@@ -14,7 +14,7 @@ void frmLatka::selectProperty(int index) {
     L_Vlast.selected = index;
     Hodnota.clear();
     const std::optional<double> T = typedTemperature(T_Teplota.text);
-    if (T && Vypocet) Vypocet(index + 1, *T);
+    if (T) raiseEvent(Vypocet, index + 1, *T);
 }
 
 void frmLatka::keyInTemperature(int key) {
@@ -23,12 +23,12 @@ void frmLatka::keyInTemperature(int key) {
 
 void frmLatka::clickC_Vypocet() {
     const std::optional<double> T = typedTemperature(T_Teplota.text);
-    if (!T && showExclamation) showExclamation(std::string(kTemperatureComplaint));
+    if (!T) raiseEvent(showExclamation, std::string(kTemperatureComplaint));
     selectProperty(L_Vlast.selected);
 }
 
 void frmLatka::clickC_Zpet() {
-    if (zavrit) zavrit();
+    raiseEvent(zavrit);
     visible = false;
 }
 

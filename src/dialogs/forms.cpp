@@ -20,7 +20,7 @@ bool isDigitOrControl(int key) { return key < 32 || (key >= 48 && key <= 57); }
 void F_Sezn::keyPressed(int) { close(); }
 
 void F_Sezn::close() {
-    if (zavrit) zavrit();
+    raiseEvent(zavrit);
     visible = false;
 }
 
@@ -35,9 +35,7 @@ void F_Seznam::selectLine(int index) {
     L_Seznam.selected = index;
 }
 
-void F_Seznam::exclaim(const std::string& text) const {
-    if (showExclamation) showExclamation(text);
-}
+void F_Seznam::exclaim(const std::string& text) const { raiseEvent(showExclamation, text); }
 
 void F_Seznam::showNextBox() {
     if (PocZadanych >= kBoxes) return;
@@ -127,7 +125,7 @@ void F_Seznam::clickC_OK() {
     numbers[0] = static_cast<std::int16_t>(PocZadanych);
     for (int i = 1; i <= PocZadanych; ++i)
         boxAt(numbers, i) = roundToInt16(parseLeadingNumber(boxAt(T_Smes, i - 1).text));
-    if (SZavrit) SZavrit(numbers);
+    raiseEvent(SZavrit, numbers);
 }
 
 // ---- F_Sloz ------------------------------------------------------------------------------------------------------
@@ -155,17 +153,16 @@ void F_Sloz::clickO_Hmot() {
 
 void F_Sloz::mouseOnName(int i, int button) {
     boxAt(L_J, i);
-    const auto& event = button == 1 ? ZobrazL : ZobrazZ;
-    if (event) event(i + 1);
+    raiseEvent(button == 1 ? ZobrazL : ZobrazZ, i + 1);
 }
 
 void F_Sloz::clickC_OK() {
-    if (ZavriSloz) ZavriSloz();
+    raiseEvent(ZavriSloz);
     visible = false;
 }
 
 void F_Sloz::clickC_Zpet() {
-    if (ZpetSloz) ZpetSloz();
+    raiseEvent(ZpetSloz);
     visible = false;
 }
 

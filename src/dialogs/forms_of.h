@@ -11,7 +11,8 @@ namespace velor {
 
 // Created with the object, and released in the order of their creation.
 struct Forms final : Dialogs {
-    std::unique_ptr<F_Sezn> list = std::make_unique<F_Sezn>();
+    // Shared, because a host may renew it while it is shown.
+    std::shared_ptr<F_Sezn> list = std::make_shared<F_Sezn>();
     std::unique_ptr<F_Seznam> components = std::make_unique<F_Seznam>();
     std::unique_ptr<F_Sloz> composition = std::make_unique<F_Sloz>();
     std::unique_ptr<frmLatka> display = std::make_unique<frmLatka>();
@@ -30,7 +31,7 @@ struct Forms final : Dialogs {
         correction.reset();
     }
 
-    void renewList() override { list = std::make_unique<F_Sezn>(); }
+    void renewList() override { list = std::make_shared<F_Sezn>(); }
 };
 
 // Every object has them; see the creation of Smes.

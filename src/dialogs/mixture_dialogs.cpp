@@ -123,6 +123,7 @@ void Smes::mZadSmes_SZavrit(const CislaLatek& numbers) {
 void Smes::ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant&, const Variant& mode) {
     State& state = *state_;
     F_Sloz& form = *formsOf(state).composition;
+    loadComponents(state);  // so that names and molar masses are those of the mixture defined
     for (;;) {
         n = state.definition.PocSlozek;
         const bool acceptable = prepareForm(state, form, X, W, mode);

@@ -106,9 +106,10 @@ std::string listing(const State& state) {
 
 void writeListing(State& state) {
     const NamePosition name = positionOfFileName(state);
+    const std::string file = state.place.AdresaBaze.substr(0, name.byte) + "SEZNAM.DAT";
     if (name.character < kLeastNamePosition) show(state.messages, "VELOR - chyba v cestě k souboru", Icon::None);
     if (name.character == 0) checked::raise(RunTimeError::kInvalidCall);  // a negative length
-    platform::replaceFile(state.place.AdresaBaze.substr(0, name.byte) + "SEZNAM.DAT", listing(state));
+    platform::replaceFile(file, listing(state));
 }
 
 }  // namespace

@@ -21,8 +21,8 @@ struct PreparedGasMixing {
 
 namespace {
 
-std::span<const PairFactor> pairFactors(State& state) {
-    const int n = state.definition.PocSlozek;
+// For the n components that were gathered: a message box may have led the host to define others meanwhile.
+std::span<const PairFactor> pairFactors(State& state, int n) {
     const PreparedGasMixing* kept = state.prepared.gasMixing.get();
     if (!kept || kept->revision != state.definition.slots.revision() || kept->components != n) {
         PreparedGasMixing prepared{state.definition.slots.revision(), n, {}};
@@ -54,7 +54,7 @@ double conductivity(State& state, const Temperature& T, const Composition& X) {
     ComponentValues eta(n), lambda(n);
     for (int i = 1; i <= n; ++i) eta[i] = FFce(state, T, i, kETAG);
     for (int i = 1; i <= n; ++i) lambda[i] = FFce(state, T, i, kALAG);
-    return gasConductivity(x.first(n), pairFactors(state), eta.first(n), lambda.first(n));
+    return gasConductivity(x.first(n), pairFactors(state, n), eta.first(n), lambda.first(n));
 }
 
 double heatCapacity(State& state, const Temperature& T, const Composition& X) {
