@@ -374,10 +374,10 @@ class Smes {
     int RezimSeznamu() const;
 
     // Shows the list: mode left out, 0 or 1 asks for the order; 2 asks for a text and shows the lines that hold it.
-    // Error 9: more than 800 lines.
+    // Error 9: more than 800 lines. Where only SEZNAM.DAT cannot be written, here and in ZadejSmes, the list is shown.
     void SeznamShow(const Variant& mode = Variant::missing());
 
-    // Sorts arr(first..last), an array of texts, by the first 17 characters.
+    // Sorts arr(first..last) by the first 17 characters of its texts; elements that are no texts stay what they are.
     void QuickSort(Variant& arr, int first, int last);
     // A random whole number from lower to upper, from a generator of the object's own that is never seeded.
     int RandInt(int lower, int upper);
@@ -387,7 +387,7 @@ class Smes {
     // Lets the user choose the components; they are loaded when the choice is confirmed.
     void ZadejSmes();
 
-    // Lets the user enter the composition. n receives the number of components, X(1..n) the mole and W(1..n) the mass
+    // Lets the user enter the composition of the mixture, whose records are loaded first. n receives the number of components, X(1..n) the mole and W(1..n) the mass
     // fractions. mode prefills the values: |mode| = 1 equal parts, 2 W, 3 X. Back leaves the mixture without
     // components and everything else as it was. Errors: kRaisedToHost a negative value, 9 arrays that are too short.
     void ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant& text = Variant::missing(),

@@ -66,7 +66,7 @@ int Smes::RezimSeznamu() const { return state_->list.RezimSeznamu; }
 void Smes::SeznamShow(const Variant& mode) {
     State& state = *state_;
     state.list.RezimSeznamu = mode.isMissing() ? std::int16_t{-1} : mode.toInt16();
-    if (state.list.SeznamLatek.empty()) rebuildSubstanceList(state);
+    buildListForDialog(state);
     const std::vector<std::string> lines = linesInOrder(state);
     std::vector<std::string> shown;
     if (state.list.RezimSeznamu == kSearch) {
@@ -91,10 +91,15 @@ void Smes::mSeznam_zavrit() { formsOf(*state_).list->visible = false; }
 
 void Smes::QuickSort(Variant& arr, int first, int last) {
     if (checkedInt16(first) >= checkedInt16(last)) return;
+    std::vector<Variant> elements;
     std::vector<std::string> lines;
-    for (int i = first; i <= last; ++i) lines.push_back(arr.at(i).toText());
-    sortLines(state_->list.randomState, lines);
-    for (int i = first; i <= last; ++i) arr.at(i) = lines[static_cast<std::size_t>(i - first)];
+    for (int i = first; i <= last; ++i) {
+        elements.push_back(arr.at(i));
+        lines.push_back(elements.back().toText());
+    }
+    int place = first;
+    for (const std::size_t position : sortedOrder(state_->list.randomState, lines))
+        arr.at(place++) = elements[position];
 }
 
 int Smes::RandInt(int lower, int upper) {

@@ -96,7 +96,7 @@ void copyTo(Variant& array, const std::vector<double>& fractions) {
 void Smes::ZadejSmes() {
     State& state = *state_;
     state.definition.Nacteno = 0;
-    if (state.list.SeznamLatek.empty()) rebuildSubstanceList(state);
+    buildListForDialog(state);
     F_Seznam& form = *formsOf(state).components;
     form.L_Seznam = {state.list.SeznamLatek, state.list.SeznamLatek.empty() ? -1 : 0};
     form.caption = " SEZNAM LÁTEK - definice složek směsi" + std::string(kBlanksBeforeVersion, ' ') + versionText();
@@ -116,8 +116,15 @@ void Smes::mZadSmes_SZavrit(const CislaLatek& numbers) {
     state.definition.PocSlozek = n;
     for (int i = 1; i <= n; ++i) state.definition.slots.setCisloLatky(i, numbers[ComponentSlots::index(i) + 1]);
     if (n < ComponentSlots::kCount) state.definition.slots.setCisloLatky(n + 1, 0);
-    if (loadComponents(state) == 0)
+    const auto tellFailure = [&] {
         showUnlessSilent(state.messages, "Nemohu načíst z " + state.place.DataFileName + "!", Icon::Critical);
+    };
+    try {
+        if (loadComponents(state) == 0) tellFailure();
+    } catch (const RunTimeError&) {
+        tellFailure();
+        throw;
+    }
 }
 
 void Smes::ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant&, const Variant& mode) {

@@ -114,14 +114,21 @@ void writeListing(State& state) {
 
 }  // namespace
 
+std::vector<std::size_t> sortedOrder(std::uint32_t& randomState, std::span<const std::string> lines) {
+    std::vector<KeyedLine> keyed;
+    keyed.reserve(lines.size());
+    for (std::size_t i = 0; i < lines.size(); ++i) keyed.push_back({sortKey(lines[i]), i});
+    quickSort(randomState, std::span(keyed));
+    std::vector<std::size_t> order;
+    order.reserve(keyed.size());
+    for (const KeyedLine& line : keyed) order.push_back(line.position);
+    return order;
+}
+
 void sortLines(std::uint32_t& randomState, std::vector<std::string>& lines) {
-    std::vector<KeyedLine> order;
-    order.reserve(lines.size());
-    for (std::size_t i = 0; i < lines.size(); ++i) order.push_back({sortKey(lines[i]), i});
-    quickSort(randomState, std::span(order));
     std::vector<std::string> sorted;
     sorted.reserve(lines.size());
-    for (const KeyedLine& line : order) sorted.push_back(std::move(lines[line.position]));
+    for (const std::size_t position : sortedOrder(randomState, lines)) sorted.push_back(lines[position]);
     lines = std::move(sorted);
 }
 
@@ -134,6 +141,17 @@ void rebuildSubstanceList(State& state) {
     state.list.SeznamLatek = std::move(lines);
     state.list.PocLatek = static_cast<std::int16_t>(state.list.SeznamLatek.size());
     writeListing(state);
+}
+
+void buildListForDialog(State& state) {
+    if (!state.list.SeznamLatek.empty()) return;
+    try {
+        rebuildSubstanceList(state);
+    } catch (const RunTimeError& error) {
+        const bool isRefused =
+            error.number() == RunTimeError::kPermissionDenied || error.number() == RunTimeError::kPathFileAccess;
+        if (!isRefused || state.list.SeznamLatek.empty()) throw;
+    }
 }
 
 }  // namespace velor

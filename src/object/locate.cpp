@@ -77,6 +77,7 @@ void searchAndConfigure(DatabasePlace& place, const Messages& messages) {
          Icon::Information, "Instalace VELOR");
     const std::string found = searchVolumes(place);
     if (found.empty()) {
+        place.AdresaBaze.clear();
         show(messages,
              std::string("Lituji, ale nemáte nikde na dostupných discích") + kLineBreak +
                  "nainstalován datový soubor báze " + place.DataFileName + kLineBreak +
