@@ -68,9 +68,8 @@ Variant Smes::VSM(const Variant& X) {
 
 void Smes::Normal(Variant& X) const {
     std::vector<double> x = readFractions(*state_, X);
-    const double sum = sumOf(x);
-    if (!(std::abs(1.0 - sum) > kFractionTolerance)) return;
-    for (double& fraction : x) fraction = checked::divide(fraction, sum);
+    if (!(std::abs(1.0 - sumOf(x)) > kFractionTolerance)) return;
+    normalise(x);
     for (int i = 1; i <= state_->definition.PocSlozek; ++i) X.at(i) = x[static_cast<std::size_t>(i - 1)];
 }
 

@@ -19,12 +19,12 @@ double molarVolume(double M, double rho);
 double liquidDensity(std::span<const double> x, std::span<const double> volumes, double M);
 
 // Viscosity by the logarithmic rule on the molar kinematic viscosity q = eta M / rho (Arrhenius, 1887, has it on eta
-// alone): ln q = sum(x ln q). It takes three steps, because the mixture's density is gathered between the last two.
+// alone): ln q = sum(x ln q), in three steps, because the mixture's density is gathered between the last two. First
 // ln q of a pure liquid, q in Pa s m3/mol. Errors: 11 no density, 5 q not positive.
 double logarithmOfMolarViscosity(double eta, double M, double rho);
-// q of the mixture. [Pa s m3/mol] Error 6: it is too great.
+// Then q of the mixture. [Pa s m3/mol] Error 6: it is too great.
 double meanMolarViscosity(std::span<const double> x, std::span<const double> logarithms);
-// q rho / M. [Pa s] Error 11: no molar mass.
+// Last eta = q rho / M. [Pa s] Error 11: no molar mass.
 double dynamicViscosity(double q, double rho, double M);
 
 // Reciprocal-square rule on mass fractions (Vredeveld, 1973): (sum(w / lambda^2))^(-1/2), written with
@@ -33,10 +33,10 @@ double reciprocalSquareConductivity(double M, std::span<const double> x, std::sp
                                     std::span<const double> lambda);
 
 // Surface tension by the fourth-root rule (Macleod, 1923; Sugden, 1924) with parachors per mass and the vapour's
-// density left out: (rho sum(x p))^4, p = sigma^(1/4) / rho of the pure liquids. [N/m] p of a pure liquid. [(N/m)^(1/4)
-// m3/kg] Errors: 5 a negative tension, 11 no density.
-double parachor(double sigma, double rho);
+// density left out: (rho sum(x p))^4. [N/m]
 double liquidSurfaceTension(std::span<const double> x, std::span<const double> parachors, double rho);
+// p = sigma^(1/4) / rho of a pure liquid. [(N/m)^(1/4) m3/kg] Errors: 5 a negative tension, 11 no density.
+double parachor(double sigma, double rho);
 
 // Integral of a heat capacity a1 + a2 T + ... of that degree from T0 to T. [J/mol]
 double polynomialIntegral(int degree, const Coefficients& a, double T0, double T);
