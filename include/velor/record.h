@@ -9,7 +9,7 @@ namespace velor {
 // One temperature correlation of one property.
 struct TKorelace {
     std::array<float, 6> A{};  // coefficients A1..A6
-    std::int16_t Typ = 0;      // equation type 1..19
+    std::int16_t Typ = 0;      // equation type, docs/data.md
     std::int16_t Priznak = 0;  // 0: the property is not given
     std::int16_t Tmin = 0;     // validity range, whole kelvin
     std::int16_t Tmax = 0;

@@ -176,7 +176,7 @@ class Smes {
 
     // ---- Correlations --------------------------------------------------------------------------------------------
 
-    // The text of equation type 1..19; " Neznámý vztah! " for any other.
+    // The text of an equation type, 1 ... (docs/data.md); " Neznámý vztah! " for any other.
     static std::string Vztah(int Typ);
 
     // The short name of property 1..11 ("ETAG" ... "SIGMA", "Rezerva"); "Nedef. " for any other.

@@ -73,7 +73,8 @@ TKorelace frmOprav::typedBlock(int index) const {
     if (boxAt(typed_, index) == boxAt(filled_, index)) return before;
     TKorelace block = readBlock(boxAt(typed_, index));
     if (block.Priznak == 0 && before.Priznak == 0)
-        throw InvalidField(kTyp, "Typ rovnice: zadejte číslo 1 až 19, nebo vyprázdněte i ostatní pole.");
+        throw InvalidField(kTyp,
+                           "Typ rovnice: zadejte číslo " + equationTypesText() + ", nebo vyprázdněte i ostatní pole.");
     if (block.Priznak != 0 && before.Priznak != 0) block.Priznak = before.Priznak;
     return block;
 }

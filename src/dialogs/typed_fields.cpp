@@ -175,7 +175,8 @@ TKorelace readBlock(const std::array<std::string, frmOprav::kFields>& texts) {
     const int type = typedType(texts[frmOprav::kTyp]);
     if (type == 0) return block;
     if (!isEquationType(type))
-        throw InvalidField(frmOprav::kTyp, "Typ rovnice: zadejte číslo 1 až 19, nebo pole nechte prázdné.");
+        throw InvalidField(frmOprav::kTyp,
+                           "Typ rovnice: zadejte číslo " + equationTypesText() + ", nebo pole nechte prázdné.");
     block.Typ = static_cast<std::int16_t>(type);
     block.Priznak = 1;
     for (std::size_t j = 0; j < block.A.size(); ++j) {

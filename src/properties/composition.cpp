@@ -30,12 +30,6 @@ std::vector<double> molarMasses(const State& state) {
 
 std::string vsmTitle() { return "VELOR - VSM"; }
 
-double molarMassOf(const State& state, const Composition& X) {
-    double sum = 0.0;
-    for (int i = 1; i <= state.definition.PocSlozek; ++i) sum += X.at(i) * state.definition.slots.Latka(i).Mv;
-    return sum;
-}
-
 using Conversion = void (*)(std::span<const double>, std::span<const double>, std::span<double>);
 
 // Fractions that are zero take part; no count of the others is checked, deliberately.
@@ -54,19 +48,28 @@ Variant convert(State& state, const Variant& from, Variant& to, Conversion conve
 
 }  // namespace
 
+double molarMass(const State& state, const Composition& X) {
+    const int n = state.definition.PocSlozek;
+    ComponentValues x(n), M(n);
+    for (int i = 1; i <= n; ++i) {
+        x[i] = X.at(i);
+        M[i] = state.definition.slots.Latka(i).Mv;
+    }
+    return meanMolarMass(x.first(n), M.first(n));
+}
+
 std::optional<double> VSM(State& state, const Composition& X) {
-    return trapped(state.messages, vsmTitle, [&] { return molarMassOf(state, X); });
+    return trapped(state.messages, vsmTitle, [&] { return molarMass(state, X); });
 }
 
 Variant Smes::VSM(const Variant& X) {
-    return trappedMethod(*state_, vsmTitle, [&] { return molarMassOf(*state_, Composition(X)); });
+    return trappedMethod(*state_, vsmTitle, [&] { return molarMass(*state_, Composition(X)); });
 }
 
 void Smes::Normal(Variant& X) const {
     std::vector<double> x = readFractions(*state_, X);
-    const double sum = sumOf(x);
-    if (!(std::abs(1.0 - sum) > kFractionTolerance)) return;
-    for (double& fraction : x) fraction = checked::divide(fraction, sum);
+    if (!(std::abs(1.0 - sumOf(x)) > kFractionTolerance)) return;
+    normalise(x);
     for (int i = 1; i <= state_->definition.PocSlozek; ++i) X.at(i) = x[static_cast<std::size_t>(i - 1)];
 }
 

@@ -7,7 +7,10 @@
 
 namespace velor {
 
-// Sum of x M under the trap of VSM. [kg/mol]
+// Sum of x M, kg/mol. Errors: 9, 13 those of reading the fractions.
+double molarMass(const State& state, const Composition& X);
+
+// The same under the trap of VSM.
 std::optional<double> VSM(State& state, const Composition& X);
 
 }  // namespace velor

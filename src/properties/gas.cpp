@@ -6,8 +6,8 @@
 
 #include "properties/composition.h"
 #include "properties/pure_value.h"
+#include "rules/composition.h"
 #include "rules/gas.h"
-#include "rules/liquid.h"
 #include "velor/smes.h"
 
 namespace velor {

@@ -6,6 +6,7 @@
 #include "object/trap.h"
 #include "properties/composition.h"
 #include "properties/pure_value.h"
+#include "rules/composition.h"
 #include "rules/liquid.h"
 #include "velor/smes.h"
 
@@ -17,12 +18,10 @@ namespace {
 constexpr double kTrace = 1e-06;
 constexpr double kLeastConductivity = 1e-06;
 
-double fourthPower(double value) { return value * value * value * value; }
-
-double liquidDensity(State& state, const Temperature& T, const Composition& X) {
+double density(State& state, const Temperature& T, const Composition& X) {
     const int n = state.definition.PocSlozek;
     if (n == 1) return FFce(state, T, 1, kROLW);
-    ComponentValues x = takeFractions(state, X), Vc(n), Tc(n), molarVolume(n);
+    ComponentValues x = takeFractions(state, X), Vc(n), Tc(n), volume(n);
     for (int i = 1; i <= n; ++i) {
         Vc[i] = state.definition.slots.Latka(i).Vkr;
         Tc[i] = state.definition.slots.Latka(i).Tkr;
@@ -31,43 +30,41 @@ double liquidDensity(State& state, const Temperature& T, const Composition& X) {
     const double Tr = checked::divide(T, volumeMeanTemperature(x.first(n), Vc.first(n), Tc.first(n)));
     for (int i = 1; i <= n; ++i)
         if (x[i] > kTrace)
-            molarVolume[i] = checked::divide(state.definition.slots.Latka(i).Mv, FFce(state, Tr * Tc[i], i, kROLW));
+            volume[i] = molarVolume(state.definition.slots.Latka(i).Mv, FFce(state, Tr * Tc[i], i, kROLW));
     const double M = VSM(state, Composition(x.first(n))).value_or(0.0);
-    return checked::divide(M, moleMean(x.first(n), molarVolume.first(n)));
+    return liquidDensity(x.first(n), volume.first(n), M);
 }
 
 std::optional<double> ROLW(State& state, const Temperature& T, const Composition& X) {
     return trapped(
-        state.messages, [&] { return titleAtTemperature("ROLW", double{T}); },
-        [&] { return liquidDensity(state, T, X); });
+        state.messages, [&] { return titleAtTemperature("ROLW", double{T}); }, [&] { return density(state, T, X); });
 }
 
-double liquidViscosity(State& state, const Temperature& T, const Composition& X) {
+double viscosity(State& state, const Temperature& T, const Composition& X) {
     const int n = state.definition.PocSlozek;
     if (n == 1) return FFce(state, T, 1, kETAL);
     ComponentValues x(n), logarithm(n);
-    double q = 1.0;  // molar kinematic viscosity
+    double carried = 0.0;  // a trace takes the value of the component before it, the first one 0, as built
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         if (x[i] > kTrace) {
-            const double viscosity = FFce(state, T, i, kETAL);
-            q = checked::divide(viscosity * state.definition.slots.Latka(i).Mv, FFce(state, T, i, kROLW));
+            const double eta = FFce(state, T, i, kETAL);
+            carried = logarithmOfMolarViscosity(eta, state.definition.slots.Latka(i).Mv, FFce(state, T, i, kROLW));
         }
-        logarithm[i] = checked::naturalLogarithm(q);  // a trace takes the q of the component before it, as built
+        logarithm[i] = carried;
     }
-    const double mean = checked::exponential(moleMean(x.first(n), logarithm.first(n)));
+    const double q = meanMolarViscosity(x.first(n), logarithm.first(n));
     const Composition taken(x.first(n));
-    const double density = ROLW(state, T, taken).value_or(0.0);
-    return checked::divide(mean * density, VSM(state, taken).value_or(0.0));
+    const double rho = ROLW(state, T, taken).value_or(0.0);
+    return dynamicViscosity(q, rho, VSM(state, taken).value_or(0.0));
 }
 
 std::optional<double> ETAL(State& state, const Temperature& T, const Composition& X) {
     return trapped(
-        state.messages, [&] { return titleAtTemperature("ETAL", double{T}); },
-        [&] { return liquidViscosity(state, T, X); });
+        state.messages, [&] { return titleAtTemperature("ETAL", double{T}); }, [&] { return viscosity(state, T, X); });
 }
 
-double liquidConductivity(State& state, const Temperature& T, const Composition& X) {
+double conductivity(State& state, const Temperature& T, const Composition& X) {
     const int n = state.definition.PocSlozek;
     ComponentValues x(n), M(n), lambda(n);
     for (int i = 1; i <= n; ++i) {
@@ -80,7 +77,7 @@ double liquidConductivity(State& state, const Temperature& T, const Composition&
 
 std::optional<double> ALAL(State& state, double T, const Composition& X) {
     return trapped(
-        state.messages, [&] { return titleAtTemperature("ALAL", T); }, [&] { return liquidConductivity(state, T, X); });
+        state.messages, [&] { return titleAtTemperature("ALAL", T); }, [&] { return conductivity(state, T, X); });
 }
 
 double CPL(State& state, const Temperature& T, const Composition& X) {
@@ -110,8 +107,9 @@ double SL(State& state, double T, const Composition& X) {
         x[i] = takeFraction(state, X, i);
         const TLatka& record = state.definition.slots.Latka(i);
         const TKorelace& heatCapacity = record.Korelace[kCPL - 1];
-        if (x[i] > 0.0 && isPolynomial(heatCapacity.Typ))  // the threshold of HL is another one, as built
-            entropy[i] = polynomialIntegralOverT(heatCapacity.Typ, heatCapacity.A, record.Tnbv, T);
+        const int degree = polynomialDegree(heatCapacity.Typ);
+        if (x[i] > 0.0 && degree > 0)  // the threshold of HL is another one, as built
+            entropy[i] = polynomialIntegralOverT(degree, heatCapacity.A, record.Tnbv, T);
     }
     return moleMean(x.first(n), entropy.first(n));
 }
@@ -124,17 +122,18 @@ std::optional<double> trappedSL(State& state, double T, const Composition& X) {
 double surfaceTension(State& state, const Temperature& T, const Composition& X) {
     const int n = state.definition.PocSlozek;
     if (n == 1) return FFce(state, T, 1, kSIGMA);
-    ComponentValues x(n), parachor(n);
-    double density = 1.0, root = 0.0;
+    ComponentValues x(n), parachors(n);
+    double carried = 0.0;  // a zero fraction takes the value of the component before it, the first one 0, as built
     for (int i = 1; i <= n; ++i) {
         x[i] = takeFraction(state, X, i);
         if (x[i] > 0.0) {
-            density = FFce(state, T, i, kROLW);
-            root = checked::power(FFce(state, T, i, kSIGMA), 0.25);
+            const double rho = FFce(state, T, i, kROLW);
+            carried = parachor(FFce(state, T, i, kSIGMA), rho);
         }
-        parachor[i] = checked::divide(root, density);  // a zero fraction reuses the component before it, as built
+        parachors[i] = carried;
     }
-    return fourthPower(moleMean(x.first(n), parachor.first(n)) * ROLW(state, T, X).value_or(0.0));
+    const double rho = ROLW(state, T, X).value_or(0.0);
+    return liquidSurfaceTension(x.first(n), parachors.first(n), rho);
 }
 
 double vapourPressure(State& state, const Temperature& T, const Composition& X) {
@@ -172,17 +171,15 @@ double HL(State& state, double T, const Composition& X) {
         x[i] = takeFraction(state, X, i);
         const TLatka& record = state.definition.slots.Latka(i);
         const TKorelace& heatCapacity = record.Korelace[kCPL - 1];
-        if (x[i] > kTrace && isPolynomial(heatCapacity.Typ))
-            enthalpy[i] = polynomialIntegral(heatCapacity.Typ, heatCapacity.A, record.Tnbv, T);
+        const int degree = polynomialDegree(heatCapacity.Typ);
+        if (x[i] > kTrace && degree > 0) enthalpy[i] = polynomialIntegral(degree, heatCapacity.A, record.Tnbv, T);
     }
     return checked::finite(moleMean(x.first(n), enthalpy.first(n)));
 }
 
-Variant Smes::ROLW(const Variant& T, const Variant& X) { return trappedLiquid(*state_, "ROLW", T, X, liquidDensity); }
-Variant Smes::ETAL(const Variant& T, const Variant& X) { return trappedLiquid(*state_, "ETAL", T, X, liquidViscosity); }
-Variant Smes::ALAL(const Variant& T, const Variant& X) {
-    return trappedLiquid(*state_, "ALAL", T, X, liquidConductivity);
-}
+Variant Smes::ROLW(const Variant& T, const Variant& X) { return trappedLiquid(*state_, "ROLW", T, X, density); }
+Variant Smes::ETAL(const Variant& T, const Variant& X) { return trappedLiquid(*state_, "ETAL", T, X, viscosity); }
+Variant Smes::ALAL(const Variant& T, const Variant& X) { return trappedLiquid(*state_, "ALAL", T, X, conductivity); }
 Variant Smes::SL(const Variant& T, const Variant& X) { return trappedLiquid(*state_, "SL", T, X, velor::SL); }
 Variant Smes::SIGMA(const Variant& T, const Variant& X) {
     return trappedLiquid(*state_, "SIGMA", T, X, surfaceTension);
@@ -229,8 +226,8 @@ Variant Smes::PrL(const Variant& T, const Variant& X) {
         const Composition x(X);
         const double t = T.toDouble();
         const double heatCapacity = perMass(state, velor::CPL(state, t, x), x);
-        const double viscosity = velor::ETAL(state, t, x).value_or(0.0);
-        return checked::divide(heatCapacity * viscosity, velor::ALAL(state, t, x).value_or(0.0));
+        const double eta = velor::ETAL(state, t, x).value_or(0.0);
+        return checked::divide(heatCapacity * eta, velor::ALAL(state, t, x).value_or(0.0));
     });
 }
 
@@ -239,8 +236,8 @@ Variant Smes::ReL(const Variant& T, const Variant& X, const Variant& a, const Va
     return method(state, [&] {
         const Composition x(X);
         const double t = T.toDouble();
-        const double density = velor::ROLW(state, t, x).value_or(0.0);
-        const double product = density * a.toDouble() * b.toDouble();
+        const double rho = velor::ROLW(state, t, x).value_or(0.0);
+        const double product = rho * a.toDouble() * b.toDouble();
         return checked::divide(product, velor::ETAL(state, t, x).value_or(0.0));
     });
 }
@@ -252,8 +249,8 @@ Variant Smes::ObjRozL(const Variant& T, const Variant& x) {
         const Composition X(x);
         const double t = T.toDouble();
         const double before = velor::ROLW(state, t - kStep, X).value_or(0.0);
-        const double density = velor::ROLW(state, t, X).value_or(0.0);
-        return checked::divide((before - density) / kStep, density);
+        const double rho = velor::ROLW(state, t, X).value_or(0.0);
+        return checked::divide((before - rho) / kStep, rho);
     });
 }
 

@@ -28,9 +28,7 @@ Variant perMass(State& state, Member member, const Variant& T, const Variant& P,
 std::optional<double> massDensity(State& state, HostNumber T, HostNumber P, const Composition& X) {
     const std::optional<double> density = realGasMember(state, &RealGasState::density, T, P, X);
     if (!density) return std::nullopt;
-    double M = 0.0;
-    for (int i = 1; i <= state.definition.PocSlozek; ++i) M += X.at(i) * state.definition.slots.Latka(i).Mv;
-    return M * *density * kCubicCentimetres;
+    return molarMass(state, X) * *density * kCubicCentimetres;
 }
 
 std::string rrogwTitle(const HostNumber& T, const HostNumber& P) {

@@ -10,6 +10,15 @@ inline constexpr double kFractionTolerance = 1e-05;
 
 double sumOf(std::span<const double> x);
 
+// Divides by the sum. Error 11: it is 0.
+void normalise(std::span<double> x);
+
+// sum(x y), the mole-fraction mean of pure values y, in their unit.
+double moleMean(std::span<const double> x, std::span<const double> y);
+
+// Molar mass of a mixture: sum(x M). [kg/mol]
+inline double meanMolarMass(std::span<const double> x, std::span<const double> M) { return moleMean(x, M); }
+
 // Mass fractions of mole fractions: x M / sum(x M). All zero stays all zero.
 void massFractions(std::span<const double> x, std::span<const double> M, std::span<double> w);
 

@@ -38,10 +38,11 @@ double powerOfVapourPressure(const Temperature& T, double exponent) {
     return power(T, exponent);
 }
 
-// Types 1-5, by Horner's scheme from the top.
-double polynomial(int degree, const Coefficients& A, double T) {
-    double y = A[static_cast<std::size_t>(degree)];
-    for (int j = degree - 1; j >= 0; --j) y = y * T + A[static_cast<std::size_t>(j)];
+// By Horner's scheme from the top.
+template <std::size_t degree>
+double polynomial(const Coefficients& A, double T) {
+    double y = A[degree];
+    for (std::size_t j = degree; j-- > 0;) y = y * T + A[j];
     return y;
 }
 
@@ -118,79 +119,94 @@ double gasTransport(const Coefficients& A, const Temperature& T) {
     return divide(A[0] * power(T, A[1]), 1.0 + r * (A[2] + r * A[3]));
 }
 
-double evaluateUnchecked(int type, const Coefficients& A, const Temperature& T) {
-    switch (type) {
-        case 1:
-        case 2:
-        case 3:
-        case 4:
-        case 5:
-            return polynomial(type, A, T);
-        case 6:
-            return antoine(A, T);
-        case 7:
-            return rackett(A, T);
-        case 8:
-            return watson(A, T);
-        case 9:
-            return decimalWithLogarithm(A, T);
-        case 10:
-            return decimalQuadratic(A, T);
-        case 11:
-            return reciprocalCubic(A, T);
-        case 12:
-            return sutherland(A, T);
-        case 13:
-            return wagner(A, T);
-        case 14:
-            return reducedTension(A, T);
-        case 15:
-            return daubert(A, T);
-        case 16:
-            return reducedQuadratic(A, T);
-        case 17:
-            return referenceReciprocal(A, T);
-        case 18:
-            return extendedAntoine(A, T);
-        case 19:
-            return gasTransport(A, T);
-        default:
-            checked::raise(RunTimeError::kSubscript);
-    }
+// What the table calls: the result has to be finite.
+template <auto equation>
+double finiteValue(const Coefficients& A, const Temperature& T) {
+    return finite(equation(A, T));
 }
 
-constexpr std::array<std::string_view, kEquationTypes> kTexts{
-    " y = A1 + A2.T   přímka ",
-    " y = A1 + A2.T + A3.T^2   parabola ",
-    " y = A1 + A2.T + A3.T^2 + A4.T^3  polynom ",
-    " y = A1 + A2.T + A3.T^2 + A4.T^3 + A5.T^4  polynom ",
-    " y = A1 + A2.T + A3.T^2 + A4.T^3 + A5.T^4 + A6.T^5  polynom ",
-    " ln(y) = A1+ A2/(A3 + T)   Antoine ",
-    " log(y) = 3 + log(A1) - (1 - T/A3)^(2/7) .log(A2)    A3=Tkr ",
-    " y = A1.[(A4 - T)/(A4 - A2)]^A3    A4=Tkr ",
-    " log(y) = A1 + A2/(A3 + T) + A4.log(T) + A5.T + A6.T^2 ",
-    " log(y) = A1 + A2/(A5 + T) + A3.T + A4.T^2 ",
-    " ln(y) = A1 + A2/T + A3/T^2 + A4/T^3 ",
-    " y = A1.T^1.5 /(T + A2) ",
-    " ln(y/A6) = (A1.t + A2.t^1.5 + A3.t^3 + A4.t^6) /T.A5   t=1-T/A5; A5=Tkr; A6=Pkr Wagner ",
-    " y = A1.(1 - Tr)^0.38 / Tr^(1/6) ",
-    " y = A1 / A2^[1 + (1 - T/A3)^A4] ",
-    " y = A1.(1 - Tr)[A2 + A3.Tr + A4.Tr^2]   Tr=T/A6 ",
-    " log(y) = A1.(1/T - 1/A2)+A3 ",
-    " ln(y) = A1 + A2/T + A3.ln(T) + A4.T^A5 ",
-    " y = A1.T^A2/(1 + A3/T + A4/T^2) ",
-};
+template <class... Numbers>
+constexpr std::uint8_t coefficients(Numbers... numbers) {
+    return static_cast<std::uint8_t>(((1U << (numbers - 1)) | ...));
+}
+
+constexpr auto kTable = std::to_array<Equation>({
+    {.value = finiteValue<polynomial<1>>, .text = " y = A1 + A2.T   přímka ", .used = coefficients(1, 2), .degree = 1},
+    {.value = finiteValue<polynomial<2>>,
+     .text = " y = A1 + A2.T + A3.T^2   parabola ",
+     .used = coefficients(1, 2, 3),
+     .degree = 2},
+    {.value = finiteValue<polynomial<3>>,
+     .text = " y = A1 + A2.T + A3.T^2 + A4.T^3  polynom ",
+     .used = coefficients(1, 2, 3, 4),
+     .degree = 3},
+    {.value = finiteValue<polynomial<4>>,
+     .text = " y = A1 + A2.T + A3.T^2 + A4.T^3 + A5.T^4  polynom ",
+     .used = coefficients(1, 2, 3, 4, 5),
+     .degree = 4},
+    {.value = finiteValue<polynomial<5>>,
+     .text = " y = A1 + A2.T + A3.T^2 + A4.T^3 + A5.T^4 + A6.T^5  polynom ",
+     .used = coefficients(1, 2, 3, 4, 5, 6),
+     .degree = 5},
+    {.value = finiteValue<antoine>,
+     .text = " ln(y) = A1+ A2/(A3 + T)   Antoine ",
+     .used = coefficients(1, 2, 3),
+     .source = "Antoine (1888)"},
+    {.value = finiteValue<rackett>,
+     .text = " log(y) = 3 + log(A1) - (1 - T/A3)^(2/7) .log(A2)    A3=Tkr ",
+     .used = coefficients(1, 2, 3),
+     .reference = 3,
+     .source = "Rackett (1970)"},
+    {.value = finiteValue<watson>,
+     .text = " y = A1.[(A4 - T)/(A4 - A2)]^A3    A4=Tkr ",
+     .used = coefficients(1, 2, 3, 4),
+     .reference = 4,
+     .source = "Watson (1943)"},
+    {.value = finiteValue<decimalWithLogarithm>,
+     .text = " log(y) = A1 + A2/(A3 + T) + A4.log(T) + A5.T + A6.T^2 ",
+     .used = coefficients(1, 2, 3, 4, 5, 6)},
+    {.value = finiteValue<decimalQuadratic>,
+     .text = " log(y) = A1 + A2/(A5 + T) + A3.T + A4.T^2 ",
+     .used = coefficients(1, 2, 3, 4, 5)},
+    {.value = finiteValue<reciprocalCubic>,
+     .text = " ln(y) = A1 + A2/T + A3/T^2 + A4/T^3 ",
+     .used = coefficients(1, 2, 3, 4)},
+    {.value = finiteValue<sutherland>,
+     .text = " y = A1.T^1.5 /(T + A2) ",
+     .used = coefficients(1, 2),
+     .source = "Sutherland (1893)"},
+    {.value = finiteValue<wagner>,
+     .text = " ln(y/A6) = (A1.t + A2.t^1.5 + A3.t^3 + A4.t^6) /T.A5   t=1-T/A5; A5=Tkr; A6=Pkr Wagner ",
+     .used = coefficients(1, 2, 3, 4, 5, 6),
+     .reference = 5,
+     .source = "Wagner (1973)"},
+    {.value = finiteValue<reducedTension>,
+     .text = " y = A1.(1 - Tr)^0.38 / Tr^(1/6) ",
+     .used = coefficients(1, 2),
+     .reference = 2},
+    {.value = finiteValue<daubert>,
+     .text = " y = A1 / A2^[1 + (1 - T/A3)^A4] ",
+     .used = coefficients(1, 2, 3, 4),
+     .reference = 3,
+     .source = "Daubert and Danner (1985)"},
+    {.value = finiteValue<reducedQuadratic>,
+     .text = " y = A1.(1 - Tr)[A2 + A3.Tr + A4.Tr^2]   Tr=T/A6 ",
+     .used = coefficients(1, 2, 3, 4, 6),
+     .reference = 6},
+    {.value = finiteValue<referenceReciprocal>, .text = " log(y) = A1.(1/T - 1/A2)+A3 ", .used = coefficients(1, 2, 3)},
+    {.value = finiteValue<extendedAntoine>,
+     .text = " ln(y) = A1 + A2/T + A3.ln(T) + A4.T^A5 ",
+     .used = coefficients(1, 2, 3, 4, 5)},
+    {.value = finiteValue<gasTransport>, .text = " y = A1.T^A2/(1 + A3/T + A4/T^2) ", .used = coefficients(1, 2, 3, 4)},
+});
 
 }  // namespace
 
-double evaluateEquation(int type, const Coefficients& A, const Temperature& T) {
-    return finite(evaluateUnchecked(type, A, T));
-}
+constinit const std::span<const Equation> kEquations = kTable;
 
-std::string_view equationText(int type) {
-    if (!isEquationType(type)) return " Neznámý vztah! ";
-    return kTexts[static_cast<std::size_t>(type - 1)];
-}
+std::string_view equationText(int type) { return isEquationType(type) ? equationOf(type).text : " Neznámý vztah! "; }
+
+std::string equationTypesText() { return "1 až " + std::to_string(kEquations.size()); }
 
 double waterDensity(double T) {
     const double tau = 1.0 - T / 647.096;

@@ -2,6 +2,9 @@
 #pragma once
 
 #include <array>
+#include <cstdint>
+#include <span>
+#include <string>
 #include <string_view>
 
 #include "rules/temperature.h"
@@ -13,18 +16,45 @@ using Coefficients = std::array<float, 6>;  // A1..A6
 // The value where an equation has none: beyond its reference temperature, or after an error.
 inline constexpr double kNoValue = 1E-8;
 
-inline constexpr int kEquationTypes = 19;
+// What is known of one equation.
+struct Equation {
+    double (*value)(const Coefficients& A, const Temperature& T);  // see evaluateEquation
+    std::string_view text;                                         // how it is shown to the user
+    std::uint8_t used;                                             // its coefficients, A1 the lowest bit
+    int degree = 0;                                                // of a polynomial a1 + a2 T + ...; 0: it is none
+    int reference = 0;             // the coefficient that is the reference temperature, 1 A1 ...; 0: it has none
+    std::string_view source = {};  // author and year, where the form is anybody's
 
-inline constexpr bool isEquationType(int type) { return type >= 1 && type <= kEquationTypes; }
+    constexpr bool uses(std::size_t coefficient) const { return (used >> coefficient & 1U) != 0; }  // 0 is A1
+};
 
-// Equation type 1..19 at T kelvin, in the unit of its coefficients; double precision on single-precision
-// coefficients. Types 7, 8, 13, 14, 15 and 16 give kNoValue beyond their reference temperature (A3, A4, A5, A2, A3,
-// A6). Errors: 5 a logarithm, root or power that does not exist, 6 a result that is not finite or a damaged
-// coefficient, 11 a zero denominator; 9 another type.
-double evaluateEquation(int type, const Coefficients& A, const Temperature& T);
+// The one list of them: type 1, 2 ... in this order. A new equation is a function and a row at its end.
+extern const std::span<const Equation> kEquations;
+
+inline bool isEquationType(int type) { return type >= 1 && static_cast<std::size_t>(type) <= kEquations.size(); }
+
+// Error 9: no type.
+inline const Equation& equationOf(int type) {
+    if (!isEquationType(type)) [[unlikely]]
+        checked::raise(RunTimeError::kSubscript);
+    return kEquations[static_cast<std::size_t>(type - 1)];
+}
+
+// The equation at T kelvin, in the unit of its coefficients; double precision on single-precision coefficients. One
+// with a reference temperature gives kNoValue beyond it. Errors: 5 a logarithm, root or power that does not exist, 6 a
+// result that is not finite or a damaged coefficient, 11 a zero denominator; 9 no type.
+inline double evaluateEquation(int type, const Coefficients& A, const Temperature& T) {
+    return equationOf(type).value(A, T);
+}
+
+// The degree of a polynomial; 0 where the type is none.
+inline int polynomialDegree(int type) { return isEquationType(type) ? equationOf(type).degree : 0; }
 
 // How an equation is shown to the user.
 std::string_view equationText(int type);
+
+// The types as a sentence names them: "1 až 19".
+std::string equationTypesText();
 
 // Saturated liquid density of water, kg/m3, up to 647.096 K (error 5 above): the saturated-liquid equation of IAPWS
 // (Wagner and Pruss, 1993), with b4 = -1.7549379 where the release has -1.75493479, on purpose.

@@ -61,13 +61,13 @@ double HeatCapacity::operator()(double T) const {
 // range, where Cp(T') is constant: Cp(T') (T - T') and Cp(T') ln(T/T').
 HeatCapacityIntegral::HeatCapacityIntegral(const HeatCapacity& heatCapacity, double T0)
     : heatCapacity_(heatCapacity),
-      polynomial_(heatCapacity.type >= 1 && heatCapacity.type <= 5),
+      polynomial_(polynomialDegree(heatCapacity.type) > 0),
       start_(heatCapacity.workingTemperature(T0)),
       atStart_(heatCapacity(T0)),
       T0_(T0),
       lnT0_(checked::naturalLogarithm(T0)) {
     if (!polynomial_) return;
-    const auto terms = static_cast<std::size_t>(heatCapacity.type) + 1;
+    const auto terms = static_cast<std::size_t>(polynomialDegree(heatCapacity.type)) + 1;
     for (std::size_t j = 0; j < terms; ++j) {
         byEnthalpy_[j] = heatCapacity.A[j] / static_cast<double>(j + 1);
         byEntropy_[j] = j == 0 ? heatCapacity.A[j] : heatCapacity.A[j] / static_cast<double>(j);

@@ -2,15 +2,10 @@
 
 #include <cstddef>
 
+#include "rules/composition.h"
 #include "runtime/checked.h"
 
 namespace velor {
-
-double moleMean(std::span<const double> x, std::span<const double> y) {
-    double sum = 0.0;
-    for (std::size_t i = 0; i < x.size(); ++i) sum += x[i] * y[i];
-    return sum;
-}
 
 double volumeMeanTemperature(std::span<const double> x, std::span<const double> Vc, std::span<const double> Tc) {
     double volume = 0.0, weighted = 0.0;
@@ -21,12 +16,35 @@ double volumeMeanTemperature(std::span<const double> x, std::span<const double> 
     return checked::divide(weighted, volume);
 }
 
+double molarVolume(double M, double rho) { return checked::divide(M, rho); }
+
+double liquidDensity(std::span<const double> x, std::span<const double> volumes, double M) {
+    return checked::divide(M, moleMean(x, volumes));
+}
+
+double logarithmOfMolarViscosity(double eta, double M, double rho) {
+    return checked::naturalLogarithm(checked::divide(eta * M, rho));
+}
+
+double meanMolarViscosity(std::span<const double> x, std::span<const double> logarithms) {
+    return checked::exponential(moleMean(x, logarithms));
+}
+
+double dynamicViscosity(double q, double rho, double M) { return checked::divide(q * rho, M); }
+
 double reciprocalSquareConductivity(double M, std::span<const double> x, std::span<const double> molarMasses,
                                     std::span<const double> lambda) {
     double sum = 0.0;
     for (std::size_t i = 0; i < x.size(); ++i)
         if (x[i] > 0.0) sum += checked::divide(x[i] * molarMasses[i], lambda[i] * lambda[i]);
     return checked::squareRoot(checked::divide(M, sum));
+}
+
+double parachor(double sigma, double rho) { return checked::divide(checked::power(sigma, 0.25), rho); }
+
+double liquidSurfaceTension(std::span<const double> x, std::span<const double> parachors, double rho) {
+    const double root = moleMean(x, parachors) * rho;
+    return root * root * root * root;
 }
 
 double polynomialIntegral(int degree, const Coefficients& a, double T0, double T) {

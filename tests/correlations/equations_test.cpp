@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -43,8 +44,23 @@ TEST(Equations, agreeWithPointsWorkedOutByHand) {
         {19, {7e-08F, 0.9346F, 195.6F, -13046}, 400.0, 1.3444555589453975e-05},
     };
     // clang-format on
-    for (const Point& p : points)
-        EXPECT_NEAR(evaluateEquation(p.type, p.A, p.T) / p.y, 1.0, 5e-14) << "type " << p.type;
+    for (const Point& p : points) {
+        SCOPED_TRACE("type " + std::to_string(p.type));
+        EXPECT_NEAR(evaluateEquation(p.type, p.A, p.T) / p.y, 1.0, 5e-14);
+        // A damaged coefficient shows where the table says that it is used, and nowhere else.
+        const Equation& equation = equationOf(p.type);
+        for (std::size_t j = 0; j < p.A.size(); ++j) {
+            Coefficients damaged = p.A;
+            damaged[j] = std::numeric_limits<float>::quiet_NaN();
+            double y = kNoValue;
+            const int error = errorNumber([&] { y = evaluateEquation(p.type, damaged, p.T); });
+            EXPECT_EQ(equation.uses(j), error != 0 || y == kNoValue) << "A" << j + 1;
+            EXPECT_TRUE(equation.degree == 0 || equation.uses(j) == (static_cast<int>(j) <= equation.degree));
+        }
+    }
+    for (int type = 1; isEquationType(type); ++type)
+        EXPECT_TRUE(std::ranges::any_of(points, [&](const Point& p) { return p.type == type; }))
+            << "no point of " << type;
 }
 
 constexpr float kTc = 500;
@@ -59,6 +75,7 @@ TEST(Equations, endAtTheirReferenceTemperature) {
     };
     // clang-format on
     for (const auto& [type, A, at] : limits) {
+        EXPECT_EQ(A[static_cast<std::size_t>(equationOf(type).reference - 1)], kTc) << type;
         EXPECT_GT(evaluateEquation(type, A, 499.0), 1e-4) << type;
         EXPECT_NEAR(evaluateEquation(type, A, kTc), at, 1e-10) << type;
         EXPECT_EQ(evaluateEquation(type, A, 500.001), kNoValue) << type;
@@ -81,7 +98,7 @@ TEST(Equations, raiseWhatArithmeticRefuses) {
         {18, {0, 0, 0, 1, 200}, 400, 6}, {19, {1, 0.5F, 0, 0}, -1, 5}, {19, {1, 1, -300, 0}, 300, 11},
         {1, {kNaN, 1}, 300, 6}, {5, {1, 1, 1, 1, 1, kInfinity}, 300, 6}, {6, {-kInfinity, 1, 1}, 300, 6},
         {6, {1, 1, kInfinity}, 300, 6}, {18, {1, 1, 1, -1, 120}, 400, 6}, {19, {1, kNaN, 0, 0}, 1, 6},
-        {0, {}, 300, 9}, {20, {}, 300, 9},
+        {0, {}, 300, 9}, {99, {}, 300, 9},
     };
     // clang-format on
     for (const Point& f : failures)

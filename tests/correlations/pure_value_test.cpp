@@ -4,11 +4,11 @@
 namespace velor::test {
 namespace {
 
-// Component 2 lacks ETAG (block zero); 3 has a type of 20 in CPG, 4 a type of -3 there; 5 divides by zero in ALAG.
+// Component 2 lacks ETAG (block zero); 3 has a type of 99 in CPG, 4 a type of -3 there; 5 divides by zero in ALAG.
 std::vector<TLatka> substances() {
     std::vector<TLatka> records = sampleSubstances(6);
     records[2].Korelace[0] = {};
-    records[3].Korelace[1].Typ = 20;
+    records[3].Korelace[1].Typ = 99;
     records[4].Korelace[1].Typ = -3;
     records[5].Korelace[2] = {{1, 1, -300}, 6, 1, 200, 400};
     return records;
@@ -139,7 +139,7 @@ TEST(Names, areFixed) {
     for (const int k : {0, 12, -32768}) EXPECT_EQ(Smes::ChybRozv(k), "Nedef. ");
     EXPECT_EQ(Smes::Vztah(13),
               " ln(y/A6) = (A1.t + A2.t^1.5 + A3.t^3 + A4.t^6) /T.A5   t=1-T/A5; A5=Tkr; A6=Pkr Wagner ");
-    for (const int type : {0, 20}) EXPECT_EQ(Smes::Vztah(type), " Neznámý vztah! ");
+    for (const int type : {0, 99}) EXPECT_EQ(Smes::Vztah(type), " Neznámý vztah! ");
     EXPECT_DOUBLE_EQ(Smes::Log10("1000").toDouble(), 3);
     EXPECT_EQ(errorNumber([] { Smes::Log10(0); }), RunTimeError::kInvalidCall);
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "records/record_layout.h"
+#include "rules/equations.h"
 #include "support/sample_mixture.h"
 #include "velor/component_forms.h"
 #include "velor/forms.h"
@@ -173,8 +174,10 @@ TEST_F(ComponentDialogs, refuseFieldByField) {
         EXPECT_EQ(smes.Synonym(2).toText().substr(0, 6), "Sample");
     }
     const std::tuple<int, std::string, std::string> corrections[] = {
-        {frmOprav::kTyp, "20", "TENS, Typ rovnice: zadejte číslo 1 až 19, nebo pole nechte prázdné."},
-        {frmOprav::kTyp, "1.5", "TENS, Typ rovnice: zadejte číslo 1 až 19, nebo pole nechte prázdné."},
+        {frmOprav::kTyp, "99",
+         "TENS, Typ rovnice: zadejte číslo " + equationTypesText() + ", nebo pole nechte prázdné."},
+        {frmOprav::kTyp, "1.5",
+         "TENS, Typ rovnice: zadejte číslo " + equationTypesText() + ", nebo pole nechte prázdné."},
         {frmOprav::kFirstCoefficient + 1, "1e39", "TENS, A2: zadejte číslo; prázdné pole je nula."},
         {frmOprav::kTmin, "", "TENS, Tmin: zadejte celé číslo kelvinů, nejvýše 32767."},
         {frmOprav::kTmax, "32768", "TENS, Tmax: zadejte celé číslo kelvinů, nejvýše 32767."},

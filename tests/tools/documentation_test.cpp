@@ -1,4 +1,4 @@
-// The record's page tells the same as the table that the code works from.
+// The pages tell the same as the tables that the code works from.
 #include <gtest/gtest.h>
 
 #include <map>
@@ -7,6 +7,8 @@
 #include <variant>
 
 #include "records/record_layout.h"
+#include "rules/equations.h"
+#include "runtime/text.h"
 #include "support/temporary_folder.h"
 
 namespace velor {
@@ -48,6 +50,20 @@ TEST(RecordPage, tellsTheLayout) {
     Table block{{"A1..A6", row(0, kCoefficients * sizeof(float), "singles")}};
     for (const BlockField& field : kBlockFields) block[std::string(field.name)] = row(field.offset, 2, "int16");
     EXPECT_EQ(pageTable("Correlation block"), block);
+}
+
+TEST(DataPage, listsTheEquations) {
+    const auto coefficient = [](std::size_t number) { return " A" + std::to_string(number); };
+    std::string rows = "|---|---|---|---|---|\n";
+    for (int type = 1; isEquationType(type); ++type) {
+        const Equation& equation = equationOf(type);
+        const auto reference = static_cast<std::size_t>(equation.reference);
+        rows += "| " + std::to_string(type) + " | `" + std::string(trimBlanks(equation.text)) + "` |";
+        for (std::size_t j = 0; j < Coefficients{}.size(); ++j)
+            if (equation.uses(j)) rows += coefficient(j + 1);
+        rows += " |" + (reference == 0 ? "" : coefficient(reference)) + " | " + std::string(equation.source) + " |\n";
+    }
+    EXPECT_NE(test::readFile(VELOR_DOCS "/data.md").find(rows + "\n"), std::string::npos) << rows;
 }
 
 }  // namespace

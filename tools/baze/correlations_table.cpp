@@ -41,17 +41,7 @@ constexpr std::array<Column, 14> kColumns{{
 
 constexpr std::int16_t kGiven = 1;  // the usual Priznak of a block that is given
 
-// Coefficients A1, A2 ... that the equation types 1, 2 ... use, as bits from the lowest up.
-constexpr std::array<unsigned, kEquationTypes> kUsedCoefficients{
-    0b000011, 0b000111, 0b001111, 0b011111, 0b111111,            // polynomials
-    0b000111, 0b000111, 0b001111, 0b111111, 0b011111, 0b001111,  // 6 to 11
-    0b000011, 0b111111, 0b000011, 0b001111, 0b101111,            // 12 to 16; A5 of type 16 is not used
-    0b000111, 0b011111, 0b001111,
-};
-
-bool isUsed(int type, std::size_t coefficient) {
-    return isEquationType(type) && (kUsedCoefficients[static_cast<std::size_t>(type - 1)] >> coefficient & 1U) != 0;
-}
+bool isUsed(int type, std::size_t coefficient) { return isEquationType(type) && equationOf(type).uses(coefficient); }
 
 std::optional<int> readProperty(RowReader& row) {
     for (int k = 1; k <= TLatka::kCorrelations; ++k)
@@ -63,7 +53,8 @@ std::optional<int> readProperty(RowReader& row) {
 void readType(RowReader& row, TKorelace& block) {
     const auto type = row.integer("Typ");
     block.Typ = type.value_or(block.Typ);
-    if (type && !isEquationType(*type)) row.doubt("Typ", "typ rovnice má být 1 až 19, ne " + std::to_string(*type));
+    if (type && !isEquationType(*type))
+        row.doubt("Typ", "typ rovnice má být " + equationTypesText() + ", ne " + std::to_string(*type));
 }
 
 void readCoefficients(RowReader& row, TKorelace& block) {
