@@ -1,5 +1,6 @@
 #include "com/variant_conversion.h"
 
+#include <algorithm>
 #include <new>
 #include <utility>
 #include <vector>
@@ -74,12 +75,33 @@ bool holds(SAFEARRAY* array, VARTYPE type) {
     return (array->fFeatures & kKinds) == wanted && SafeArrayGetElemsize(array) == sizeOf(type);
 }
 
+struct Bounds {
+    LONG first = 0, last = 0;
+};
+
+Bounds boundsOf(SAFEARRAY* array, UINT dimension) {
+    Bounds bounds;
+    check(SafeArrayGetLBound(array, dimension, &bounds.first));
+    check(SafeArrayGetUBound(array, dimension, &bounds.last));
+    return bounds;
+}
+
+// Of an array, or of the one row or column that an array of two dimensions is: worksheets pass their ranges so.
+Bounds boundsOf(SAFEARRAY* array) {
+    const UINT dimensions = SafeArrayGetDim(array);
+    const Bounds rows = boundsOf(array, 1);
+    if (dimensions == 1) return rows;
+    if (dimensions != 2) raiseTypeMismatch();
+    const Bounds columns = boundsOf(array, 2);
+    if (rows.first == rows.last) return columns;
+    if (columns.first != columns.last) raiseTypeMismatch();
+    return rows;
+}
+
 Variant arrayOf(SAFEARRAY* array, VARTYPE type, int nesting) {
     if (array == nullptr) return Variant::array(0, {});  // declared, but not yet sized
-    if (SafeArrayGetDim(array) != 1 || !holds(array, type)) raiseTypeMismatch();
-    LONG first = 0, last = 0;
-    check(SafeArrayGetLBound(array, 1, &first));
-    check(SafeArrayGetUBound(array, 1, &last));
+    if (!holds(array, type)) raiseTypeMismatch();
+    const auto [first, last] = boundsOf(array);
     void* data = nullptr;
     check(SafeArrayAccessData(array, &data));
     const ArrayAccess access(array);
@@ -207,16 +229,32 @@ SafeArray newArray(VARTYPE type, const Variant& value) {
 }
 
 bool hasBoundsOf(SAFEARRAY* array, const Variant& value) {
-    LONG first = 0, last = 0;
-    return array != nullptr && SafeArrayGetDim(array) == 1 && SUCCEEDED(SafeArrayGetLBound(array, 1, &first)) &&
-           SUCCEEDED(SafeArrayGetUBound(array, 1, &last)) && first == value.lowerBound() && last == value.upperBound();
+    if (array == nullptr) return false;
+    const auto [first, last] = boundsOf(array);
+    return first == value.lowerBound() && last == value.upperBound();
+}
+
+// Exchanges the elements of two arrays of the same type and length; what each held goes with the other.
+void exchangeElements(SAFEARRAY* one, SAFEARRAY* other, std::size_t count) {
+    void *ofOne = nullptr, *ofOther = nullptr;
+    check(SafeArrayAccessData(one, &ofOne));
+    const ArrayAccess accessToOne(one);
+    check(SafeArrayAccessData(other, &ofOther));
+    const ArrayAccess accessToOther(other);
+    auto* const bytes = static_cast<char*>(ofOne);
+    std::swap_ranges(bytes, bytes + count * SafeArrayGetElemsize(one), static_cast<char*>(ofOther));
 }
 
 // Into the variable that holds an array.
 void writeArray(const Variant& value, SAFEARRAY*& array, VARTYPE type) {
     if (!value.isArray()) raiseTypeMismatch();
     SafeArray fresh = newArray(type, value);
-    if (hasBoundsOf(array, value)) return check(SafeArrayCopyData(fresh.get(), array));
+    if (hasBoundsOf(array, value)) {
+        if (SafeArrayGetDim(array) == 1) return check(SafeArrayCopyData(fresh.get(), array));
+        if (!holds(array, type)) raiseTypeMismatch();
+        return exchangeElements(fresh.get(), array,
+                                static_cast<std::size_t>(value.upperBound() - value.lowerBound() + 1));
+    }
     if (array != nullptr) {
         if ((array->fFeatures & (FADF_FIXEDSIZE | FADF_STATIC | FADF_AUTO)) != 0) check(DISP_E_ARRAYISLOCKED);
         check(SafeArrayDestroy(array));
