@@ -9,12 +9,12 @@
 #include "object/load.h"
 #include "object/messages.h"
 #include "object/state.h"
-#include "properties/pure_property.h"
 #include "records/field_text.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
 #include "velor/smes.h"
+#include "velor/verdict.h"
 
 namespace velor {
 

@@ -23,7 +23,7 @@ void frmOprav::selectProperty(int index) {
     boxAt(typed_, index);
     L_Vlast.selected = index;
     for (int field = 0; field < kFields; ++field) boxAt(T_Pole, field) = {boxAt(boxAt(typed_, index), field)};
-    Poznamka = correlationNote(record_, index + 1);
+    Poznamka = correlationNote(record_.Cislo, index + 1);
     focus = {Focus::Control::Value, kTyp};
     showEquation();
     showValues();

@@ -1,6 +1,5 @@
 #include "dialogs/substance_list.h"
 
-#include <algorithm>
 #include <compare>
 #include <span>
 #include <string_view>
@@ -67,18 +66,23 @@ struct KeyedLine {
     auto operator<=>(const KeyedLine&) const = default;
 };
 
-std::vector<std::string> readLines(State& state) {
+struct ListedSubstance {
+    std::string line;
+    int number;
+};
+
+std::vector<ListedSubstance> readSubstances(State& state) {
     const RecordFile database(state.place.AdresaBaze);
-    std::vector<std::string> lines;
+    std::vector<ListedSubstance> substances;
     const int count = database.count();
     for (int number = 1; number <= count; ++number) {
         // The buffer of component 1 is used and left with the last record read, deliberately.
         const TLatka& record = state.definition.slots.change(1) = database.read(number);
         if (!isSubstance(record)) continue;
-        if (lines.size() == kMostLines) checked::raise(RunTimeError::kSubscript);
-        lines.push_back(sortedLine(record, number));
+        if (substances.size() == kMostLines) checked::raise(RunTimeError::kSubscript);
+        substances.push_back({sortedLine(record, number), number});
     }
-    return lines;
+    return substances;
 }
 
 // Character position of the database's file name in its path, without regard to case, counted from 1; 0 when it does
@@ -111,26 +115,37 @@ void writeListing(State& state) {
     platform::replaceFile(state.place.AdresaBaze.substr(0, name.byte) + "SEZNAM.DAT", listing(state));
 }
 
+const std::string& lineOf(const std::string& line) { return line; }
+const std::string& lineOf(const ListedSubstance& substance) { return substance.line; }
+
+// By the first characters of the lines; what is equal in these keeps its order.
+template <class Item>
+void sortByLine(std::uint32_t& randomState, std::vector<Item>& items) {
+    std::vector<KeyedLine> order;
+    order.reserve(items.size());
+    for (std::size_t i = 0; i < items.size(); ++i) order.push_back({sortKey(lineOf(items[i])), i});
+    quickSort(randomState, std::span(order));
+    std::vector<Item> sorted;
+    sorted.reserve(items.size());
+    for (const KeyedLine& line : order) sorted.push_back(std::move(items[line.position]));
+    items = std::move(sorted);
+}
+
 }  // namespace
 
-void sortLines(std::uint32_t& randomState, std::vector<std::string>& lines) {
-    std::vector<KeyedLine> order;
-    order.reserve(lines.size());
-    for (std::size_t i = 0; i < lines.size(); ++i) order.push_back({sortKey(lines[i]), i});
-    quickSort(randomState, std::span(order));
-    std::vector<std::string> sorted;
-    sorted.reserve(lines.size());
-    for (const KeyedLine& line : order) sorted.push_back(std::move(lines[line.position]));
-    lines = std::move(sorted);
-}
+void sortLines(std::uint32_t& randomState, std::vector<std::string>& lines) { sortByLine(randomState, lines); }
 
 void rebuildSubstanceList(State& state) {
     if (state.place.AdresaBaze.empty()) locateDatabase(state);
     if (state.place.AdresaBaze.empty()) return;
-    std::vector<std::string> lines = readLines(state);
-    sortLines(state.list.randomState, lines);
-    std::transform(lines.begin(), lines.end(), lines.begin(), numberToFront);
-    state.list.SeznamLatek = std::move(lines);
+    std::vector<ListedSubstance> substances = readSubstances(state);
+    sortByLine(state.list.randomState, substances);
+    state.list.SeznamLatek.clear();
+    state.list.numbers.clear();
+    for (const auto& [line, number] : substances) {
+        state.list.SeznamLatek.push_back(numberToFront(line));
+        state.list.numbers.push_back(number);
+    }
     state.list.PocLatek = static_cast<std::int16_t>(state.list.SeznamLatek.size());
     writeListing(state);
 }

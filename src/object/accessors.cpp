@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <string_view>
 
 #include "object/load.h"
 #include "object/state.h"
@@ -44,43 +43,6 @@ Variant textOrEmpty(const State& state, int i, std::array<char, Width> TLatka::*
     return decodeWindows1250({field.data(), field.size()});
 }
 
-constexpr std::array<std::string_view, 34> kPropertyCaptions{
-    "Viskozita (g)",
-    "Viskozita (rg)",
-    "Mol.specifické teplo Cp(g)",
-    "Specifické teplo Cp(g)",
-    "Mol.specifické teplo Cp(rg)",
-    "Specifické teplo Cp(rg)",
-    "Tepelná vodivost (g)",
-    "Tepelná vodivost (rg)",
-    "Hustota (g)",
-    "Hustota (rg)",
-    "Hustota (l)",
-    "Mol.specifické teplo Cp(l)",
-    "Specifické teplo Cp(l)",
-    "Viskozita (l)",
-    "Tepelná vodivost (l)",
-    "Mol.výparné teplo (l)",
-    "Výparné teplo (l)",
-    "Povrchové napětí (l)",
-    "Tenze par",
-    "Teplota bodu varu (l)",
-    "Teplota rosného bodu (g)",
-    "Mol.vnitřní energie (rg)",
-    "Vnitřní energie (rg)",
-    "Mol.entalpie (rg)",
-    "Entalpie (rg)",
-    "Mol.entalpie (l)",
-    "Entalpie (l)",
-    "Mol.entropie (rg)",
-    "Entropie (rg)",
-    "Mol.spec.teplo Cv (rg)",
-    "Spec.teplo Cv (rg)",
-    "Adiabatický koeficient (rg)",
-    "Ln-fugacit.koef. (rg)",
-    "Joule-Thompsnův koef. (rg)",  // spelt so, as built
-};
-
 }  // namespace
 
 Variant Smes::Mvi(int i) const { return constantOrEmptyText(*state_, i, &TLatka::Mv); }
@@ -120,18 +82,13 @@ void Smes::Nazev(int i, const std::string& name) {
     std::copy_n(bytes.begin(), std::min(bytes.size(), field.size()), field.begin());
 }
 
+const TLatka& Smes::record(int i) const { return recordOf(*state_, i); }
+void Smes::record(int i, const TLatka& record) { state_->definition.slots.change(checkedInt16(i)) = record; }
+
 Variant Smes::CAS(int i) const {
     const std::int32_t number = recordOf(*state_, i).CAS;
     if (number <= 0) return " ";
     return "[" + casText(Str(number)) + "]";  // the leading blank stays inside the bracket, as designed
-}
-
-void Smes::inivlast() { state_->settings.captionsAreFilled = true; }
-
-std::string Smes::PopisVlastnosti(int i) const {
-    if (i < 1 || i > static_cast<int>(kPropertyCaptions.size())) checked::raise(RunTimeError::kSubscript);
-    if (!state_->settings.captionsAreFilled) return {};
-    return std::string(kPropertyCaptions[static_cast<std::size_t>(i - 1)]);
 }
 
 }  // namespace velor

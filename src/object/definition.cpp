@@ -5,9 +5,9 @@
 
 #include "object/load.h"
 #include "object/messages.h"
-#include "records/constant_table.h"
 #include "records/record_layout.h"
 #include "runtime/numbers.h"
+#include "velor/constants.h"
 #include "velor/smes.h"
 
 namespace velor {

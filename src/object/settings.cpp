@@ -6,8 +6,8 @@
 #include "object/state.h"
 #include "platform/file_system.h"
 #include "platform/system.h"
-#include "records/constant_table.h"
 #include "runtime/numbers.h"
+#include "velor/constants.h"
 #include "velor/smes.h"
 
 namespace velor {

@@ -35,8 +35,10 @@ constexpr double kTemperatureDamping = 0.7;
 
 // ---- What the user is asked ------------------------------------------------------------------------------------
 
-std::string ask(State& state, std::string prompt, std::string title, std::string defaultAnswer) {
-    return state.messages.userInterface->askText({std::move(prompt), std::move(title), std::move(defaultAnswer)});
+std::string ask(State& state, std::string prompt, std::string title, std::string defaultAnswer,
+                Question question = Question::Other) {
+    return state.messages.userInterface->askText(
+        {std::move(prompt), std::move(title), std::move(defaultAnswer), question});
 }
 
 double numberIn(const std::string& answer) { return Smes::Hodnota(answer).toDouble(); }
@@ -57,7 +59,8 @@ double askPressure(State& state) {
 std::vector<double> askFeed(State& state) {
     for (;;) {
         const std::string answer =
-            ask(state, "Zadat složení nástřiku (mol.zl.) oddělené mezerou nebo středníkem: ", "FLASH", "");
+            ask(state, "Zadat složení nástřiku (mol.zl.) oddělené mezerou nebo středníkem: ", "FLASH", "",
+                Question::FlashFeed);
         if (answer.empty()) continue;
         std::vector<double> feed = parseComposition(answer);
         const bool complete = static_cast<int>(feed.size()) == state.definition.PocSlozek;
@@ -94,6 +97,7 @@ class Flash {
   public:
     Flash(State& state, int mode, std::vector<double> feed)
         : state_(state), adiabatic_(mode == kAdiabatic), n_(feed.size()) {
+        found_.kind = adiabatic_ ? FlashKind::Adiabatic : FlashKind::Isothermal;
         found_.feed = std::move(feed);
         found_.liquid.resize(n_);
         found_.vapour.resize(n_);
@@ -104,6 +108,8 @@ class Flash {
         P_ = P;
         found_.bubblePoint = TBV(state_, P, feed()).value_or(0.0);
         found_.dewPoint = TRB(state_, P, feed()).value_or(0.0);
+        found_.bubbleOutcome = state_.last.bubblePoint;
+        found_.dewOutcome = state_.last.dewPoint;
     }
 
     double bubblePoint() const { return found_.bubblePoint; }

@@ -4,8 +4,8 @@
 #include <chrono>
 
 #include "dialogs/captions.h"
-#include "runtime/folding.h"
 #include "runtime/text.h"
+#include "velor/text.h"
 #include "views/terminal/wrapped_lines.h"
 
 namespace velor::terminal {
