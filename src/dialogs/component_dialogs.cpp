@@ -2,7 +2,6 @@
 #include <string>
 #include <utility>
 
-#include "dialogs/boxes.h"
 #include "dialogs/component_texts.h"
 #include "dialogs/forms_of.h"
 #include "dialogs/typed_temperature.h"
@@ -13,6 +12,7 @@
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "velor/form_controls.h"
 #include "velor/smes.h"
 #include "velor/verdict.h"
 

@@ -1,5 +1,4 @@
 // How the temporary change of a component's correlations behaves.
-#include "dialogs/boxes.h"
 #include "dialogs/component_texts.h"
 #include "dialogs/typed_fields.h"
 #include "dialogs/typed_temperature.h"
@@ -7,6 +6,7 @@
 #include "rules/equations.h"
 #include "runtime/text.h"
 #include "velor/component_forms.h"
+#include "velor/form_controls.h"
 
 namespace velor {
 

@@ -4,8 +4,9 @@
 #include <cstddef>
 #include <utility>
 
-#include "dialogs/boxes.h"
+#include "runtime/checked.h"
 #include "runtime/numbers.h"
+#include "velor/form_controls.h"
 
 namespace velor {
 

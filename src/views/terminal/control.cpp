@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <chrono>
 
-#include "dialogs/captions.h"
-#include "runtime/text.h"
+#include "velor/form_controls.h"
 #include "velor/text.h"
 #include "views/terminal/wrapped_lines.h"
 

@@ -1,8 +1,23 @@
 #include "people/people.h"
-#include "substances/correlation_view.h"
-#include "substances/substances.h"
+#include "substances/views.h"
 
 namespace velor::app {
+
+Report answer(const SubstanceRequest& request, const Database& database, UserInterface& userInterface) {
+    const Substance& substance = findSubstance(database.substances, request.substance);
+    Smes smes(userInterface);
+    loadInto(smes, database, {&substance, 1});
+    return {{identitySection(substance), constantsSection(smes, 1), correlationsSection(smes, substance, 1)}, {}};
+}
+
+Report answer(const TourRequest& request, const Database& database, UserInterface& userInterface) {
+    const Substance& substance = findSubstance(database.substances, request.substance);
+    Smes smes(userInterface);
+    loadInto(smes, database, {&substance, 1});
+    return {
+        {identitySection(substance), constantsSection(smes, 1), valuesSection(smes, request.temperature, substance, 1)},
+        {}};
+}
 
 namespace {
 

@@ -1,10 +1,16 @@
-#include "substances/correlation_view.h"
+#include "substances/views.h"
 
+#include "velor/constants.h"
 #include "velor/text.h"
 
 namespace velor::app {
 
 namespace {
+
+Value known(float constant) {
+    if (constant == kNoConstant) return {};
+    return constant;
+}
 
 using Row = std::vector<Cell>;
 
@@ -48,6 +54,27 @@ std::vector<std::string> densityNote(const Substance& substance) {
 }
 
 }  // namespace
+
+Section identitySection(const Substance& substance) {
+    return {"latka",
+            substance.name,
+            Entries{{"cislo", "číslo látky", substance.number, {}},
+                    {"nazev", "název", substance.name, {}},
+                    {"synonym", "další název", substance.synonym, {}},
+                    {"vzorec", "vzorec", substance.formula, {}},
+                    {"CAS", "registrační číslo CAS", substance.cas, {}}},
+            {}};
+}
+
+Section constantsSection(const Smes& smes, int slot) {
+    Entries entries;
+    int k = 0;
+    for (const ConstantDescription& constant : kConstantTable) {
+        entries.push_back({std::string(constant.key), std::string(constant.caption), known(smes.Bod(slot, ++k)),
+                           std::string(constant.unit)});
+    }
+    return {"konstanty", "Konstanty", std::move(entries), {}};
+}
 
 Section correlationsSection(const Smes& smes, const Substance& substance, int slot) {
     Table table;
