@@ -11,7 +11,7 @@
 #include "baze/csv_table.h"
 #include "baze/row_reader.h"
 #include "records/field_text.h"
-#include "rules/equations.h"
+#include "rules/equations.h"  // a database may hold only the types of equation that there are
 #include "velor/smes.h"
 
 namespace velor::baze {
