@@ -3,9 +3,10 @@
 
 #include <array>
 #include <limits>
-#include <string_view>
+#include <string>
 
 #include "target.h"
+#include "velor/properties.h"
 #include "velor/smes.h"
 
 namespace velor::fuzz {
@@ -13,11 +14,6 @@ namespace velor::fuzz {
 // A bubble or dew point ends only while its divergence message is due: never on an object that may have spent its
 // messages, nor in mode 2.
 inline constexpr int kAmpleBudget = std::numeric_limits<std::int16_t>::max();
-
-inline constexpr std::array<const char*, 38> kNames{
-    "ROLW",  "ETAL", "ETAG", "ALAL", "ALAG", "CPL", "CPLW", "CPG",   "CPGW", "SIGMA",  "DHV",     "DHVW",  "SL",
-    "SLW",   "HL",   "HLW",  "TENS", "PRL",  "VSM", "ROGW", "RROGW", "RCPG", "RCPGW",  "RCVG",    "RCVGW", "RALAG",
-    "RETAG", "RHG",  "RHGW", "RSG",  "RSGW", "RUG", "RUGW", "LNFUG", "KAPA", "JTKOEF", "objrozl", "?"};
 
 inline void askConstants(Smes& smes, int i) {
     for (const auto accessor :
@@ -45,7 +41,10 @@ inline void askKeptResults(Smes& smes) {
 }
 
 inline void askMixture(Smes& smes, const Variant& T, const Variant& P, const Variant& X) {
-    for (const char* name : kNames) tryCall(name, [&] { return smes.Vlastnost(name, X, T, P); });
+    for (const MixtureProperty& property : mixtureProperties())
+        if (!property.outcome)
+            tryCall(property.code, [&] { return smes.Vlastnost(std::string(property.code), X, T, P); });
+    tryCall("by no name", [&] { return smes.Vlastnost("?", X, T, P); });
     for (const char* part : {"T", "P", "V", "Z", "M", "?"}) tryCall("PSEUD", [&] { return smes.PSEUD(X, part); });
     for (const int mode : {0, 1}) tryCall("TEVRP", [&] { return smes.TEVRP(mode, T, P, X); });
     tryCall("PrG", [&] { return smes.PrG(T, P, X); });

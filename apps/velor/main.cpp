@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <exception>
 #include <iostream>
 #include <iterator>
@@ -9,14 +10,11 @@
 #include <string>
 #include <utility>
 
-#include "arguments.h"
-#include "commands.h"
-#include "dialogs.h"
-#include "failure.h"
-#include "mixture_dialog.h"
-#include "run_time_error_text.h"
-#include "substance_browser.h"
-#include "time_limit.h"
+#include "command_line/command_line.h"
+#include "mixtures/mixtures.h"
+#include "output/output.h"
+#include "people/people.h"
+#include "substances/substances.h"
 
 namespace velor::app {
 
@@ -68,9 +66,17 @@ Report reportOn(const MixtureDialogRequest& question, const Request& request, Pa
     return report;
 }
 
+// The dialog that defines a mixture and the whole list of substances take a terminal's whole screen. The dialog is
+// drawn to the error stream, so that the result can be kept in a file.
+std::FILE* drawnTo(const Request& request) {
+    if (std::holds_alternative<MixtureDialogRequest>(request.question)) return stderr;
+    const auto* const list = std::get_if<SubstanceListRequest>(&request.question);
+    return list && list->text.empty() && request.form == OutputForm::Text ? stdout : nullptr;
+}
+
 std::string answerText(const Request& request) {
     TimeLimit limit(request.timeLimit);
-    const Dialogs dialogs = dialogsFor(request);
+    const Dialogs dialogs = dialogsOn(drawnTo(request));
     PatientUserInterface userInterface(*dialogs.userInterface, dialogs.areOnScreen, std::cin, limit);
     const Report report =
         std::visit([&](const auto& question) { return reportOn(question, request, userInterface); }, request.question);

@@ -16,6 +16,7 @@
 
 #include "velor/chosen_numbers.h"
 #include "velor/flash_record.h"
+#include "velor/record.h"
 #include "velor/run_time_error.h"
 #include "velor/user_interface.h"
 #include "velor/variant.h"
@@ -173,6 +174,10 @@ class Smes {
     // index.
     void inivlast();
     std::string PopisVlastnosti(int i) const;
+
+    // The whole record loaded into slot i (1..20, else error 9), to be read or, until the next load, replaced.
+    const TLatka& record(int i) const;
+    void record(int i, const TLatka& record);
 
     // ---- Correlations --------------------------------------------------------------------------------------------
 
@@ -347,6 +352,10 @@ class Smes {
     Variant TBV(const Variant& P, const Variant& X);
     Variant TRB(const Variant& P, const Variant& Y);
 
+    // How the last TBV and the last TRB ended, those of a flash included.
+    SaturationOutcome lastBubblePoint() const;
+    SaturationOutcome lastDewPoint() const;
+
     // Single-stage flash of the feed Z (mole fractions, normalised here; error 11 when they sum to 0) at P pascals with
     // ideal K-values. Mode 0: isothermal at T kelvin. Mode 1: adiabatic, the feed a liquid at T, which receives the
     // final temperature. A negative mode asks the user for everything. Any other mode counts as isothermal. Returns a
@@ -370,6 +379,8 @@ class Smes {
     std::string SeznamLatek(int i) const;
     // Their number.
     int PocLatek() const;
+    // The substance number of line i of the list. Error 9: another index.
+    int listedSubstance(int i) const;
     // The mode of the last SeznamShow, -1 when it was left out.
     int RezimSeznamu() const;
 
@@ -387,9 +398,10 @@ class Smes {
     // Lets the user choose the components; they are loaded when the choice is confirmed.
     void ZadejSmes();
 
-    // Lets the user enter the composition of the mixture, whose records are loaded first. n receives the number of components, X(1..n) the mole and W(1..n) the mass
-    // fractions. mode prefills the values: |mode| = 1 equal parts, 2 W, 3 X. Back leaves the mixture without
-    // components and everything else as it was. Errors: kRaisedToHost a negative value, 9 arrays that are too short.
+    // Lets the user enter the composition of the mixture, whose records are loaded first. n receives the number of
+    // components, X(1..n) the mole and W(1..n) the mass fractions. mode prefills the values: |mode| = 1 equal parts, 2
+    // W, 3 X. Back leaves the mixture without components and everything else as it was. Errors: kRaisedToHost a
+    // negative value, 9 arrays that are too short.
     void ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant& text = Variant::missing(),
                    const Variant& mode = Variant::missing());
 

@@ -29,10 +29,14 @@ struct Message {
     bool operator==(const Message&) const = default;
 };
 
+// What a text is asked for, where a host may know the answer; its prompt is for people only.
+enum class Question { Other, FlashFeed };
+
 struct InputRequest {
     std::string prompt;
     std::string title = "VELOR";
     std::string defaultAnswer;
+    Question question = Question::Other;
 
     bool operator==(const InputRequest&) const = default;
 };

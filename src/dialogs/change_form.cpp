@@ -1,7 +1,8 @@
 // How the temporary change of a component's names and constants behaves.
-#include "dialogs/boxes.h"
+#include "dialogs/events.h"
 #include "dialogs/typed_fields.h"
 #include "velor/component_forms.h"
+#include "velor/form_controls.h"
 
 namespace velor {
 

@@ -2,19 +2,19 @@
 #include <string>
 #include <utility>
 
-#include "dialogs/boxes.h"
 #include "dialogs/component_texts.h"
 #include "dialogs/forms_of.h"
 #include "dialogs/typed_temperature.h"
 #include "object/load.h"
 #include "object/messages.h"
 #include "object/state.h"
-#include "properties/pure_property.h"
 #include "records/field_text.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "velor/form_controls.h"
 #include "velor/smes.h"
+#include "velor/verdict.h"
 
 namespace velor {
 

@@ -2,13 +2,13 @@
 
 #include <cmath>
 
-#include "properties/pure_property.h"
-#include "properties/pure_value.h"
-#include "records/constant_table.h"
 #include "records/record_layout.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "velor/constants.h"
+#include "velor/properties.h"
+#include "velor/smes.h"
 
 namespace velor {
 
@@ -60,7 +60,7 @@ std::array<CorrelationText, frmLatka::kProperties> correlationTexts(const TLatka
     std::array<CorrelationText, frmLatka::kProperties> texts;
     for (std::size_t k = 0; k < texts.size(); ++k) {
         texts[k] = correlationText(pureProperties()[k], record.Korelace[k]);
-        texts[k].note = correlationNote(record, static_cast<int>(k) + 1);
+        texts[k].note = correlationNote(record.Cislo, pureProperties()[k].number);
     }
     return texts;
 }
@@ -72,10 +72,6 @@ std::vector<std::string> propertyLines() {
         lines.push_back(padded(property.code, kCodeWidth) + padded(property.caption, kCaptionWidth) +
                         std::string(property.unit));
     return lines;
-}
-
-std::string correlationNote(const TLatka& record, int k) {
-    return record.Cislo == kWater && k == kROLW ? std::string(kWaterDensityNote) : std::string();
 }
 
 }  // namespace velor

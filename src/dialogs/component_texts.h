@@ -15,7 +15,4 @@ std::array<CorrelationText, frmLatka::kProperties> correlationTexts(const TLatka
 // A line for each of the ten properties, columns aligned.
 std::vector<std::string> propertyLines();
 
-// What has to be known about the correlation of property k; mostly nothing.
-std::string correlationNote(const TLatka& record, int k);
-
 }  // namespace velor

@@ -1,12 +1,13 @@
 // How the temporary change of a component's correlations behaves.
-#include "dialogs/boxes.h"
 #include "dialogs/component_texts.h"
+#include "dialogs/events.h"
 #include "dialogs/typed_fields.h"
 #include "dialogs/typed_temperature.h"
 #include "properties/pure_value.h"
 #include "rules/equations.h"
 #include "runtime/text.h"
 #include "velor/component_forms.h"
+#include "velor/form_controls.h"
 
 namespace velor {
 
@@ -23,7 +24,7 @@ void frmOprav::selectProperty(int index) {
     boxAt(typed_, index);
     L_Vlast.selected = index;
     for (int field = 0; field < kFields; ++field) boxAt(T_Pole, field) = {boxAt(boxAt(typed_, index), field)};
-    Poznamka = correlationNote(record_, index + 1);
+    Poznamka = correlationNote(record_.Cislo, index + 1);
     focus = {Focus::Control::Value, kTyp};
     showEquation();
     showValues();

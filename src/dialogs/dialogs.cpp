@@ -60,6 +60,11 @@ std::string Smes::SeznamLatek(int i) const {
     return state_->list.SeznamLatek[static_cast<std::size_t>(i - 1)];
 }
 
+int Smes::listedSubstance(int i) const {
+    if (i < 1 || i > state_->list.PocLatek) checked::raise(RunTimeError::kSubscript);
+    return state_->list.numbers[static_cast<std::size_t>(i - 1)];
+}
+
 int Smes::PocLatek() const { return state_->list.PocLatek; }
 int Smes::RezimSeznamu() const { return state_->list.RezimSeznamu; }
 

@@ -1,9 +1,10 @@
 // How the display of a component behaves.
 #include <optional>
 
-#include "dialogs/boxes.h"
+#include "dialogs/events.h"
 #include "dialogs/typed_temperature.h"
 #include "velor/component_forms.h"
+#include "velor/form_controls.h"
 
 namespace velor {
 

@@ -21,8 +21,10 @@ namespace {
 constexpr int kAdiabatic = 1;
 constexpr double kSumTolerance = 1.0E-4;
 
-std::string ask(State& state, std::string prompt, std::string title, std::string defaultAnswer) {
-    return state.messages.userInterface->askText({std::move(prompt), std::move(title), std::move(defaultAnswer)});
+std::string ask(State& state, std::string prompt, std::string title, std::string defaultAnswer,
+                Question question = Question::Other) {
+    return state.messages.userInterface->askText(
+        {std::move(prompt), std::move(title), std::move(defaultAnswer), question});
 }
 
 double numberIn(const std::string& answer) { return Smes::Hodnota(answer).toDouble(); }
@@ -43,7 +45,8 @@ double askPressure(State& state) {
 std::vector<double> askFeed(State& state) {
     for (;;) {
         const std::string answer =
-            ask(state, "Zadat složení nástřiku (mol.zl.) oddělené mezerou nebo středníkem: ", "FLASH", "");
+            ask(state, "Zadat složení nástřiku (mol.zl.) oddělené mezerou nebo středníkem: ", "FLASH", "",
+                Question::FlashFeed);
         if (answer.empty()) continue;
         std::vector<double> feed = parseComposition(answer);
         const bool complete = static_cast<int>(feed.size()) == state.definition.PocSlozek;

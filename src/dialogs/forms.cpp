@@ -4,8 +4,10 @@
 #include <cstddef>
 #include <utility>
 
-#include "dialogs/boxes.h"
+#include "dialogs/events.h"
+#include "runtime/checked.h"
 #include "runtime/numbers.h"
+#include "velor/form_controls.h"
 
 namespace velor {
 

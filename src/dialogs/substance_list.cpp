@@ -1,6 +1,5 @@
 #include "dialogs/substance_list.h"
 
-#include <algorithm>
 #include <compare>
 #include <span>
 #include <string_view>
@@ -67,18 +66,25 @@ struct KeyedLine {
     auto operator<=>(const KeyedLine&) const = default;
 };
 
-std::vector<std::string> readLines(State& state) {
-    const RecordFile database(state.place.AdresaBaze);
+// One line and one number for each substance, in the order of the file.
+struct ReadSubstances {
     std::vector<std::string> lines;
+    std::vector<int> numbers;
+};
+
+ReadSubstances readSubstances(State& state) {
+    const RecordFile database(state.place.AdresaBaze);
+    ReadSubstances substances;
     const int count = database.count();
     for (int number = 1; number <= count; ++number) {
         // The buffer of component 1 is used and left with the last record read, deliberately.
         const TLatka& record = state.definition.slots.change(1) = database.read(number);
         if (!isSubstance(record)) continue;
-        if (lines.size() == kMostLines) checked::raise(RunTimeError::kSubscript);
-        lines.push_back(sortedLine(record, number));
+        if (substances.lines.size() == kMostLines) checked::raise(RunTimeError::kSubscript);
+        substances.lines.push_back(sortedLine(record, number));
+        substances.numbers.push_back(number);
     }
-    return lines;
+    return substances;
 }
 
 // Character position of the database's file name in its path, without regard to case, counted from 1; 0 when it does
@@ -135,10 +141,13 @@ void sortLines(std::uint32_t& randomState, std::vector<std::string>& lines) {
 void rebuildSubstanceList(State& state) {
     if (state.place.AdresaBaze.empty()) locateDatabase(state.place, state.messages);
     if (state.place.AdresaBaze.empty()) return;
-    std::vector<std::string> lines = readLines(state);
-    sortLines(state.list.randomState, lines);
-    std::transform(lines.begin(), lines.end(), lines.begin(), numberToFront);
-    state.list.SeznamLatek = std::move(lines);
+    const ReadSubstances substances = readSubstances(state);
+    state.list.SeznamLatek.clear();
+    state.list.numbers.clear();
+    for (const std::size_t position : sortedOrder(state.list.randomState, substances.lines)) {
+        state.list.SeznamLatek.push_back(numberToFront(substances.lines[position]));
+        state.list.numbers.push_back(substances.numbers[position]);
+    }
     state.list.PocLatek = static_cast<std::int16_t>(state.list.SeznamLatek.size());
     writeListing(state);
 }

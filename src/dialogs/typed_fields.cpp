@@ -6,12 +6,12 @@
 #include <optional>
 
 #include "dialogs/typed_temperature.h"
-#include "records/constant_table.h"
 #include "records/field_text.h"
 #include "records/record_layout.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
+#include "velor/constants.h"
 #include "velor/run_time_error.h"
 
 namespace velor {

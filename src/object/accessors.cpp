@@ -2,18 +2,17 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <string_view>
 
 #include "object/load.h"
 #include "object/messages.h"
 #include "object/state.h"
-#include "records/constant_table.h"
 #include "records/record_layout.h"
 #include "runtime/checked.h"
 #include "runtime/numbers.h"
 #include "runtime/physical_constants.h"
 #include "runtime/text.h"
 #include "runtime/windows_1250.h"
+#include "velor/constants.h"
 #include "velor/smes.h"
 
 namespace velor {
@@ -46,43 +45,6 @@ Variant textOrEmpty(const ComponentSlots& slots, int i, std::array<char, Width> 
     const auto& field = recordOf(slots, i).*text;
     return decodeWindows1250({field.data(), field.size()});
 }
-
-constexpr std::array<std::string_view, 34> kPropertyCaptions{
-    "Viskozita (g)",
-    "Viskozita (rg)",
-    "Mol.specifické teplo Cp(g)",
-    "Specifické teplo Cp(g)",
-    "Mol.specifické teplo Cp(rg)",
-    "Specifické teplo Cp(rg)",
-    "Tepelná vodivost (g)",
-    "Tepelná vodivost (rg)",
-    "Hustota (g)",
-    "Hustota (rg)",
-    "Hustota (l)",
-    "Mol.specifické teplo Cp(l)",
-    "Specifické teplo Cp(l)",
-    "Viskozita (l)",
-    "Tepelná vodivost (l)",
-    "Mol.výparné teplo (l)",
-    "Výparné teplo (l)",
-    "Povrchové napětí (l)",
-    "Tenze par",
-    "Teplota bodu varu (l)",
-    "Teplota rosného bodu (g)",
-    "Mol.vnitřní energie (rg)",
-    "Vnitřní energie (rg)",
-    "Mol.entalpie (rg)",
-    "Entalpie (rg)",
-    "Mol.entalpie (l)",
-    "Entalpie (l)",
-    "Mol.entropie (rg)",
-    "Entropie (rg)",
-    "Mol.spec.teplo Cv (rg)",
-    "Spec.teplo Cv (rg)",
-    "Adiabatický koeficient (rg)",
-    "Ln-fugacit.koef. (rg)",
-    "Joule-Thompsnův koef. (rg)",  // spelt so, as built
-};
 
 bool addressesBlock(const Definition& definition, int i, int k) {
     return i >= 1 && i <= definition.PocSlozek && k >= 1 && k <= TLatka::kCorrelations;
@@ -130,6 +92,9 @@ void Smes::Nazev(int i, const std::string& name) {
     field.fill(' ');
     std::copy_n(bytes.begin(), std::min(bytes.size(), field.size()), field.begin());
 }
+
+const TLatka& Smes::record(int i) const { return recordOf(state_->definition.slots, i); }
+void Smes::record(int i, const TLatka& record) { state_->definition.slots.change(checkedInt16(i)) = record; }
 
 Variant Smes::CAS(int i) const {
     const std::int32_t number = recordOf(state_->definition.slots, i).CAS;
@@ -202,14 +167,6 @@ void Smes::Bod(int i, int k, const Variant& value) {
         return;
     }
     state_->definition.slots.change(i).*constantMember(k) = constant;
-}
-
-void Smes::inivlast() { state_->settings.captionsAreFilled = true; }
-
-std::string Smes::PopisVlastnosti(int i) const {
-    if (i < 1 || i > static_cast<int>(kPropertyCaptions.size())) checked::raise(RunTimeError::kSubscript);
-    if (!state_->settings.captionsAreFilled) return {};
-    return std::string(kPropertyCaptions[static_cast<std::size_t>(i - 1)]);
 }
 
 }  // namespace velor

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <string>
 
-#include "records/constant_table.h"
 #include "runtime/numbers.h"
+#include "velor/constants.h"
 #include "velor/smes.h"
 
 namespace velor {

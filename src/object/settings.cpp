@@ -7,6 +7,7 @@
 #include "platform/file_system.h"
 #include "platform/system.h"
 #include "runtime/numbers.h"
+#include "velor/constants.h"
 #include "velor/smes.h"
 
 namespace velor {

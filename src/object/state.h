@@ -46,6 +46,7 @@ struct DatabasePlace {
 
 struct SubstanceListState {
     std::vector<std::string> SeznamLatek;  // its lines; empty until it is built
+    std::vector<int> numbers;              // the substance of each line
     std::int16_t PocLatek = 0;
     std::int16_t RezimSeznamu = 0;
     std::uint32_t randomState = 0x50000;  // where the classic generator begins
@@ -70,6 +71,7 @@ struct LastResults {
     KeptFractions moleFractions;     // and converted
     KeptFractions massFractions;
     RealGasState realGas;
+    SaturationOutcome bubblePoint = SaturationOutcome::None, dewPoint = SaturationOutcome::None;
     FlashRecord flash;
     double flashPressure = 0;  // Pa, vapour pressure kept from the last iterated flash: the next report prints it
     Variant TKRITsm, PKRITsm, VKRITsm, ZKRITsm, MSm;  // of the last PSEUD

@@ -17,12 +17,15 @@ namespace velor {
 Flash::Flash(State& state, bool adiabatic, double P, std::vector<double> feed)
     : state_(state), adiabatic_(adiabatic), P_(P) {
     report_ = std::string("FLASH výpočet ") + (adiabatic_ ? "adiabatický" : "izotermní") + kLineBreak;
+    found_.kind = adiabatic_ ? FlashKind::Adiabatic : FlashKind::Isothermal;
     found_.feed = std::move(feed);
     found_.liquid.resize(found_.feed.size());
     found_.vapour.resize(found_.feed.size());
     const Composition z(found_.feed);
     found_.bubblePoint = TBV(state_, P, z).value_or(0.0);
     found_.dewPoint = TRB(state_, P, z).value_or(0.0);
+    found_.bubbleOutcome = state_.last.bubblePoint;
+    found_.dewOutcome = state_.last.dewPoint;
 }
 
 void Flash::run(double T0) {

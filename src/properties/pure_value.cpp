@@ -4,7 +4,6 @@
 #include <string>
 
 #include "object/trap.h"
-#include "properties/pure_property.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"

@@ -5,10 +5,9 @@
 
 #include "object/state.h"
 #include "rules/temperature.h"
+#include "velor/properties.h"
 
 namespace velor {
-
-enum Property : int { kETAG = 1, kCPG, kALAG, kROLW, kETAL, kALAL, kCPL, kDHV, kTENS, kSIGMA };
 
 // See Smes::FFce.
 double FFce(State& state, const Temperature& T, int i, int k);

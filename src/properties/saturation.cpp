@@ -15,12 +15,14 @@ struct Method {
     Saturation kind;
     const char* name;
     const char* divergence;
+    SaturationOutcome LastResults::*outcome;
 };
 
-constexpr Method kTBV{Saturation::Bubble, "TBV", "Výp.bodu varu diverguje!"};
-constexpr Method kTRB{Saturation::Dew, "TRB", "Výp.ros.bodu diverguje!"};
+constexpr Method kTBV{Saturation::Bubble, "TBV", "Výp.bodu varu diverguje!", &LastResults::bubblePoint};
+constexpr Method kTRB{Saturation::Dew, "TRB", "Výp.ros.bodu diverguje!", &LastResults::dewPoint};
 
 double saturationTemperature(State& state, const Method& method, double P, const Composition& X) {
+    SaturationOutcome& outcome = state.last.*method.outcome = SaturationOutcome::Failed;  // until it has ended
     const int n = state.definition.PocSlozek;
     const ComponentValues x = takeFractions(state, X);
     ComponentValues Tc(n);
@@ -41,6 +43,7 @@ double saturationTemperature(State& state, const Method& method, double P, const
     };
     const SaturationPoint point = saturationPoint(method.kind, P, x.first(n), Tc.first(n), vapourPressure, rise,
                                                   [&] { return mixtureMessageIsDue(state.messages); });
+    outcome = point.diverged ? SaturationOutcome::Diverged : SaturationOutcome::Converged;
     if (!point.diverged) return point.temperature;
     showCounted(state.messages, method.divergence, Icon::Exclamation);
     // After a divergence the bubble point answers 0 and the dew point its last estimate; both are meant.
@@ -73,5 +76,8 @@ std::optional<double> TRB(State& state, double P, const Composition& Y) {
 
 Variant Smes::TBV(const Variant& P, const Variant& X) { return publicTemperature(*state_, kTBV, P, X); }
 Variant Smes::TRB(const Variant& P, const Variant& Y) { return publicTemperature(*state_, kTRB, P, Y); }
+
+SaturationOutcome Smes::lastBubblePoint() const { return state_->last.bubblePoint; }
+SaturationOutcome Smes::lastDewPoint() const { return state_->last.dewPoint; }
 
 }  // namespace velor

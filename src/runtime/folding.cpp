@@ -1,10 +1,8 @@
-#include "runtime/folding.h"
-
 #include <algorithm>
 #include <numeric>
 #include <vector>
 
-#include "runtime/text.h"
+#include "velor/text.h"
 
 namespace velor {
 

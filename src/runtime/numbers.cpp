@@ -67,6 +67,13 @@ double valueOf(std::string_view number) {
     return negative ? -value : value;
 }
 
+template <class... Form>
+std::string digits(auto value, Form... form) {
+    char buffer[40];
+    const auto end = std::to_chars(buffer, buffer + sizeof buffer, value, form...);
+    return {buffer, end.ptr};
+}
+
 }  // namespace
 
 std::int16_t roundToInt16(double value) {
@@ -102,11 +109,13 @@ std::optional<double> parseWholeNumber(std::string_view text) {
 
 std::string Str(std::int32_t n) { return (n < 0 ? "" : " ") + std::to_string(n); }
 
+std::string exactText(double value) { return digits(value); }
+std::string exactText(float value) { return digits(value); }
+
+std::string roundedText(double value) { return digits(value, std::chars_format::general, 6); }
+
 std::string shortestText(double value) {
-    char buffer[32];
-    const auto end =
-        std::to_chars(buffer, buffer + sizeof buffer, checked::finite(value), std::chars_format::general, 15);
-    std::string text(buffer, end.ptr);
+    std::string text = digits(checked::finite(value), std::chars_format::general, 15);
     for (char& c : text)
         if (c == 'e') c = 'E';
     return text;

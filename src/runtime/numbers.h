@@ -3,9 +3,10 @@
 
 #include <cstdint>
 #include <initializer_list>
-#include <optional>
 #include <string>
 #include <string_view>
+
+#include "velor/text.h"
 
 namespace velor {
 
@@ -19,10 +20,6 @@ void requireInt16(std::initializer_list<int> values);
 // The longest number at the start of the text: leading blanks, sign, digits with one ".", exponent. Reading stops at
 // the first character that cannot continue it; 0 where there is none. Beyond double precision is error 6.
 double parseLeadingNumber(std::string_view text);
-
-// A text that is one number and nothing else but blanks around it, with "," or "." as the decimal separator; empty
-// otherwise. Beyond double precision is error 6.
-std::optional<double> parseWholeNumber(std::string_view text);
 
 // Decimal text of n with a leading blank where n is not negative.
 std::string Str(std::int32_t n);

@@ -92,6 +92,17 @@ std::string upperCase(std::string_view text) {
 
 bool equalIgnoringCase(std::string_view one, std::string_view other) { return upperCase(one) == upperCase(other); }
 
+std::vector<std::string> splitItems(std::string_view text) {
+    const char separator = text.find(';') == std::string_view::npos ? ',' : ';';
+    std::vector<std::string> items;
+    for (;;) {
+        const std::size_t end = text.find(separator);
+        items.emplace_back(trimBlanks(text.substr(0, end)));
+        if (end == std::string_view::npos) return items;
+        text.remove_prefix(end + 1);
+    }
+}
+
 std::string casText(std::string_view digits) {
     if (digits.size() < 3) checked::raise(RunTimeError::kInvalidCall);  // a negative length
     const std::size_t front = digits.size() - 3;

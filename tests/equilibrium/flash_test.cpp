@@ -244,7 +244,8 @@ TEST_F(FlashReportTest, asksForEverything) {
     Variant T = 1, P = 2;
     const std::string report = smes.FLASH(-1, T, P, Variant());
     const std::string feedPrompt = "Zadat složení nástřiku (mol.zl.) oddělené mezerou nebo středníkem: ";
-    const InputRequest pressure{"Zadat tlak(Pa):", "FLASH", "101300"}, feed{feedPrompt, "FLASH", ""};
+    const InputRequest pressure{"Zadat tlak(Pa):", "FLASH", "101300"},
+        feed{feedPrompt, "FLASH", "", Question::FlashFeed};
     const InputRequest mode{"FLASH  0-izotermní; 1-adiabatický:", "VELOR", "0"};
     const InputRequest temperature{"Zadat teplotu(°C):\r\nBod varu  56.9\r\nRosný bod 101.9", "VELOR", "88.4"};
     EXPECT_EQ(boxes.requests, (std::vector{mode, pressure, pressure, pressure, feed, feed, feed, temperature}));

@@ -10,9 +10,9 @@
 
 #include "baze/csv_table.h"
 #include "baze/row_reader.h"
-#include "properties/pure_value.h"
 #include "records/field_text.h"
-#include "rules/equations.h"
+#include "rules/equations.h"  // a database may hold only the types of equation that there are
+#include "velor/smes.h"
 
 namespace velor::baze {
 
@@ -45,7 +45,7 @@ bool isUsed(int type, std::size_t coefficient) { return isEquationType(type) && 
 
 std::optional<int> readProperty(RowReader& row) {
     for (int k = 1; k <= TLatka::kCorrelations; ++k)
-        if (propertyName(k) == row.cell(kProperty)) return k;
+        if (Smes::ChybRozv(k) == row.cell(kProperty)) return k;
     row.fault(kProperty, quoted(row.cell(kProperty)) + " není vlastnost (ETAG, CPG … SIGMA, Rezerva)");
     return std::nullopt;
 }
@@ -111,16 +111,15 @@ std::vector<CorrelationRow> readCorrelations(std::string_view text, Checks check
         if (isNew) {
             rows.push_back({row.line(), *number, *property, block});
         } else {
-            row.fault(kProperty, std::string(propertyName(*property)) + " látky " + std::to_string(*number) +
-                                     " už je na řádku " + std::to_string(earlier->second));
+            row.fault(kProperty, Smes::ChybRozv(*property) + " látky " + std::to_string(*number) + " už je na řádku " +
+                                     std::to_string(earlier->second));
         }
     }
     return rows;
 }
 
 std::vector<std::string> correlationCells(int number, int property, const TKorelace& block) {
-    std::vector<std::string> cells{std::to_string(number), std::string(propertyName(property)),
-                                   std::to_string(block.Typ)};
+    std::vector<std::string> cells{std::to_string(number), Smes::ChybRozv(property), std::to_string(block.Typ)};
     for (std::size_t j = 0; j < block.A.size(); ++j) cells.push_back(coefficientCell(block, j));
     cells.push_back(std::to_string(block.Tmin));
     cells.push_back(std::to_string(block.Tmax));

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "runtime/text.h"
+#include "velor/text.h"
 
 namespace velor::baze {
 

@@ -2,7 +2,6 @@
 #include <CLI/CLI.hpp>
 #include <filesystem>
 #include <iostream>
-#include <limits>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -10,13 +9,15 @@
 
 #include "baze/compile.h"
 #include "baze/decompile.h"
-#include "object/configuration_file.h"
-#include "platform/file_system.h"
+#include "object/configuration_file.h"  // the compiler writes the CFG file that the library reads
+#include "shared/files.h"
 #include "velor/run_time_error.h"
 
 namespace {
 
 using velor::RunTimeError;
+using velor::app::systemPath;
+using velor::app::utf8Path;
 
 constexpr int kFailed = 1;
 constexpr int kWrongCommandLine = 2;
@@ -32,13 +33,6 @@ struct Task {
 class Failure : public std::runtime_error {
     using std::runtime_error::runtime_error;
 };
-
-std::filesystem::path systemPath(const std::string& path) { return {std::u8string(path.begin(), path.end())}; }
-
-std::string utf8Path(const std::filesystem::path& path) {
-    const std::u8string text = path.u8string();
-    return {text.begin(), text.end()};
-}
 
 std::string pathIn(const std::string& folder, std::string_view name) {
     return utf8Path(systemPath(folder) / systemPath(std::string(name)));
@@ -59,7 +53,7 @@ std::string inCzech(const RunTimeError& error) {
 
 std::string readFile(const std::string& path) {
     try {
-        return velor::platform::readText(path, std::numeric_limits<std::size_t>::max());
+        return velor::app::readFile(path);
     } catch (const RunTimeError& error) {
         throw Failure(path + ": " + inCzech(error));
     }
@@ -67,7 +61,7 @@ std::string readFile(const std::string& path) {
 
 void writeFile(const std::string& path, std::string_view content) {
     try {
-        velor::platform::replaceFile(path, content);
+        velor::app::replaceFile(path, content);
     } catch (const RunTimeError& error) {
         throw Failure(path + ": " + inCzech(error));
     }

@@ -11,7 +11,7 @@
 #include "baze/row_reader.h"
 #include "records/field_text.h"
 #include "records/record_layout.h"
-#include "runtime/text.h"
+#include "velor/text.h"
 
 namespace velor::baze {
 

@@ -5,10 +5,9 @@
 #include <ostream>
 #include <string>
 
-#include "dialogs/boxes.h"
-#include "dialogs/captions.h"
 #include "runtime/text.h"
 #include "velor/component_forms.h"
+#include "velor/form_controls.h"
 #include "velor/user_interface.h"
 #include "views/stream/questions.h"
 

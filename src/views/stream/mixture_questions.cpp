@@ -4,8 +4,8 @@
 #include <ostream>
 #include <string>
 
-#include "dialogs/captions.h"
 #include "runtime/text.h"
+#include "velor/form_controls.h"
 #include "velor/forms.h"
 #include "velor/user_interface.h"
 #include "views/stream/questions.h"

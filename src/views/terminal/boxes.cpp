@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "runtime/checked.h"
-#include "runtime/text.h"
+#include "velor/run_time_error.h"
+#include "velor/text.h"
 #include "views/terminal/dialog.h"
 #include "views/terminal/wrapped_lines.h"
 
@@ -120,7 +120,7 @@ std::string askBox(Screen& screen, const InputRequest& request) {
     dialog.escape = cancel;
     dialog.focus(field);
     dialog.run(isOpen);
-    if (dialog.isDeserted()) checked::raise(RunTimeError::kInputPastEnd);
+    if (dialog.isDeserted()) throw RunTimeError(RunTimeError::kInputPastEnd);
     return answer;
 }
 

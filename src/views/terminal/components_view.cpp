@@ -1,8 +1,8 @@
 // The choice of a mixture's components.
 #include <algorithm>
 
-#include "dialogs/boxes.h"
-#include "runtime/text.h"
+#include "velor/form_controls.h"
+#include "velor/text.h"
 #include "views/terminal/dialog.h"
 #include "views/terminal/substance_search.h"
 #include "views/terminal/views.h"

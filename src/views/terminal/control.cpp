@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <chrono>
 
-#include "dialogs/captions.h"
-#include "runtime/folding.h"
-#include "runtime/text.h"
+#include "velor/form_controls.h"
+#include "velor/text.h"
 #include "views/terminal/wrapped_lines.h"
 
 namespace velor::terminal {

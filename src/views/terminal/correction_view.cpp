@@ -1,7 +1,7 @@
 // The temporary change of a component's correlations.
 #include <algorithm>
 
-#include "runtime/text.h"
+#include "velor/text.h"
 #include "views/terminal/dialog.h"
 #include "views/terminal/field_rows.h"
 #include "views/terminal/views.h"

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "runtime/text.h"
+#include "velor/text.h"
 
 namespace velor::terminal {
 

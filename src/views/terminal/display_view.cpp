@@ -1,8 +1,8 @@
 // The display of a component.
 #include <algorithm>
 
-#include "dialogs/boxes.h"
-#include "runtime/text.h"
+#include "velor/form_controls.h"
+#include "velor/text.h"
 #include "views/terminal/dialog.h"
 #include "views/terminal/views.h"
 

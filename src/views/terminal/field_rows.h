@@ -3,7 +3,6 @@
 
 #include <vector>
 
-#include "dialogs/boxes.h"
 #include "velor/form_controls.h"
 #include "views/terminal/dialog.h"
 

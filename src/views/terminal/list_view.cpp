@@ -1,5 +1,5 @@
 // The list of substances, to be read only.
-#include "runtime/text.h"
+#include "velor/text.h"
 #include "views/terminal/dialog.h"
 #include "views/terminal/substance_search.h"
 #include "views/terminal/views.h"

@@ -10,7 +10,7 @@
 #include <cstdlib>
 #include <stdexcept>
 
-#include "runtime/text.h"
+#include "velor/text.h"
 #include "views/terminal/restore.h"
 #include "views/terminal/terminfo.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "runtime/text.h"
+#include "velor/text.h"
 #include "views/terminal/screen.h"
 
 namespace velor::terminal {

@@ -1,0 +1,195 @@
+#include "mixtures/mixture.h"
+#include "velor/text.h"
+
+namespace velor::app {
+
+namespace {
+
+struct FlashAnswer {
+    std::string text;  // the library's own report
+    FlashRecord record;
+    std::optional<double> T0;  // K; not known where the library asked for it
+    double P = 0;              // Pa
+    std::vector<std::string> notes;
+};
+
+// ---- The report ------------------------------------------------------------------------------------------------
+
+std::string outcomeWord(FlashOutcome outcome) {
+    switch (outcome) {
+        case FlashOutcome::AllVapour:
+            return "vše odpařeno";
+        case FlashOutcome::AllLiquid:
+            return "vše kapalné";
+        case FlashOutcome::Converged:
+            return "dvě fáze";
+        case FlashOutcome::NotConverged:
+            return "nekonverguje";
+        case FlashOutcome::None:
+            break;
+    }
+    return "nevypočteno";
+}
+
+Value known(bool isKnown, double value) {
+    if (!isKnown) return {};
+    return value;
+}
+
+bool isFound(SaturationOutcome outcome, double T) { return outcome != SaturationOutcome::Diverged && T > 0; }
+
+Section resultSection(const FlashAnswer& flash) {
+    const FlashRecord& record = flash.record;
+    const bool isIterated = record.outcome == FlashOutcome::Converged;
+    const bool isAdiabatic = record.kind == FlashKind::Adiabatic;
+    const bool isBalanced = isIterated && isAdiabatic;
+    return {
+        "flash", "Flash",
+        Entries{{"druh", "druh", std::string(isAdiabatic ? "adiabatický" : "izotermní"), {}},
+                {"vysledek", "výsledek", outcomeWord(record.outcome), {}},
+                {"V", "podíl páry k nástřiku", record.vapourFraction, "mol/mol"},
+                {"T0", "počáteční teplota", known(flash.T0.has_value(), flash.T0.value_or(0)), "K"},
+                {"T", "konečná teplota", record.temperature, "K"},
+                {"P", "tlak", flash.P, "Pa"},
+                {"Tb", "bod varu nástřiku",
+                 known(isFound(record.bubbleOutcome, record.bubblePoint), record.bubblePoint), "K"},
+                {"Td", "rosný bod nástřiku", known(isFound(record.dewOutcome, record.dewPoint), record.dewPoint), "K"},
+                {"pruchody", "počet průchodů", record.passes, {}},
+                {"latkova_bilance", "zbytek látkové bilance", known(isIterated, record.materialResidual), ""},
+                {"tepelna_bilance", "zbytek tepelné bilance", known(isBalanced, record.energyResidual), "J/mol"}},
+        flash.notes};
+}
+
+Section componentsSection(const FlashRecord& record, const SubstanceList& substances) {
+    Table table;
+    table.columns = {{"cislo", "č.", ""},   {"nazev", "látka", ""}, {"z", "nástřik", ""},
+                     {"x", "kapalina", ""}, {"y", "pára", ""},      {"K", "K", ""}};
+    for (std::size_t i = 0; i < substances.size(); ++i) {
+        const bool isIterated = !record.equilibrium.empty();
+        table.rows.push_back({{substances[i].number, {}},
+                              textCell(substances[i].name),
+                              {record.feed[i], {}},
+                              {record.liquid[i], {}},
+                              {record.vapour[i], {}},
+                              {known(isIterated, isIterated ? record.equilibrium[i] : 0), {}}});
+    }
+    return {"slozky", "Složky", std::move(table), {}};
+}
+
+// Lines as a terminal wants them, ended by LF, and one line break at the end.
+std::string textOf(const FlashAnswer& flash) {
+    std::string text;
+    for (const char c : flash.text)
+        if (c != '\r') text += c;
+    text.erase(text.find_last_not_of('\n') + 1);
+    text += '\n';
+    if (!flash.notes.empty()) text += '\n';
+    for (const std::string& note : flash.notes) text += note + "\n";
+    return text;
+}
+
+// ---- The computation -------------------------------------------------------------------------------------------
+
+constexpr int kAsking = -1;
+
+[[noreturn]] void fail(const std::string& text) { throw Failure(ExitCode::NothingComputed, text); }
+
+// What came before an error and may have led to it.
+std::string earlierTrouble(const MixtureObject& object) {
+    if (object.smes.lastBubblePoint() == SaturationOutcome::Diverged) return "\n  Bod varu nástřiku nekonverguje.";
+    if (object.smes.lastDewPoint() == SaturationOutcome::Diverged) return "\n  Rosný bod nástřiku nekonverguje.";
+    const std::string said = object.log.firstText();
+    return said.empty() ? "" : "\n  " + said;
+}
+
+FlashAnswer runFlash(MixtureObject& object, int mode, double T, double P) {
+    Variant temperature = T, pressure = P;
+    try {
+        FlashAnswer flash;
+        flash.text = object.smes.FLASH(mode, temperature, pressure, object.X);
+        flash.record = object.smes.lastFlash();
+        flash.P = pressure.toDouble();
+        return flash;
+    } catch (const RunTimeError& error) {
+        fail("Flash selhal: " + describe(error) + "." + earlierTrouble(object));
+    }
+}
+
+void requireResult(const FlashAnswer& flash) {
+    const std::string place = " při tlaku " + roundedText(flash.P) + " Pa";
+    if (flash.record.outcome == FlashOutcome::NotConverged) {
+        fail("Flash" + place + " nekonverguje: ani po " + std::to_string(flash.record.passes) +
+             " průchodech není výsledek ustálený.");
+    }
+    // Without a dew point nobody knows whether the temperature lies above it.
+    if (flash.record.outcome == FlashOutcome::AllVapour && flash.record.dewOutcome == SaturationOutcome::Diverged)
+        fail("Flash nelze vypočítat: rosný bod nástřiku" + place + " nekonverguje.");
+}
+
+// The K-values of the result, which nobody else has looked at.
+std::vector<std::string> notes(const FlashAnswer& flash, const Mixture& mixture, MixtureObject& object) {
+    std::vector<std::string> notes;
+    if (flash.record.bubbleOutcome == SaturationOutcome::Diverged)
+        notes.emplace_back("Bod varu nástřiku nekonverguje; hodnota v hlášení neplatí.");
+    if (flash.record.dewOutcome == SaturationOutcome::Diverged)
+        notes.emplace_back("Rosný bod nástřiku nekonverguje; hodnota v hlášení neplatí.");
+    if (flash.record.outcome != FlashOutcome::Converged) return notes;
+    const MixtureValue worst = worstPureValue(mixture, object, *findMixtureProperty("TENS"), flash.record.temperature);
+    if (!worst.result.isComputed()) fail("Flash nelze vypočítat.\n  " + worst.reason);
+    if (worst.result.standing != Standing::InRange) notes.push_back(worst.reason);
+    return notes;
+}
+
+Report flashReport(FlashAnswer flash, Mixture mixture, MixtureObject& object) {
+    requireResult(flash);
+    mixture.moleFractions = flash.record.feed;
+    flash.notes = notes(flash, mixture, object);
+    return {{resultSection(flash), componentsSection(flash.record, mixture.substances)}, {}, textOf(flash)};
+}
+
+// The library asks for the composition although it may be known: then it is suggested. Every question has a suggestion,
+// so that an empty answer is a cancelled one; the library would ask again for ever.
+class KnownFeed : public ForwardingUserInterface {
+  public:
+    KnownFeed(UserInterface& user, const std::vector<double>& fractions) : ForwardingUserInterface(user) {
+        for (const double fraction : fractions) feed_ += (feed_.empty() ? "" : " ") + exactText(fraction);
+    }
+
+    std::string askText(const InputRequest& request) override {
+        InputRequest suggesting = request;
+        if (request.question == Question::FlashFeed) suggesting.defaultAnswer = feed_;
+        std::string answer = ForwardingUserInterface::askText(suggesting);
+        if (answer.empty()) throw Failure(ExitCode::NothingComputed, "Zadání bylo zrušeno, flash nebyl spočítán.");
+        return answer;
+    }
+
+  private:
+    std::string feed_;
+};
+
+Report flashByAsking(const Mixture& mixture, UserInterface& user) {
+    MixtureObject object(mixture, &user);
+    return flashReport(runFlash(object, kAsking, 0, 0), mixture, object);
+}
+
+}  // namespace
+
+Report answer(const FlashRequest& request, const Database& database, UserInterface&) {
+    const Mixture mixture = findMixture(request.composition, database);
+    MixtureObject object(mixture);
+    FlashAnswer flash = runFlash(object, request.adiabatic ? 1 : 0, request.temperature, request.pressure);
+    flash.T0 = request.temperature;
+    return flashReport(std::move(flash), mixture, object);
+}
+
+Report answer(const AskingFlashRequest& request, const Database& database, UserInterface& userInterface) {
+    const SubstanceList substances = findSubstances(database.substances, request.substances);
+    return flashByAsking({database, substances, std::vector<double>(substances.size())}, userInterface);
+}
+
+Report askedFlash(const Mixture& mixture, UserInterface& userInterface) {
+    KnownFeed user(userInterface, mixture.moleFractions);
+    return flashByAsking(mixture, user);
+}
+
+}  // namespace velor::app

@@ -1,0 +1,83 @@
+#include <algorithm>
+
+#include "mixtures/mixture.h"
+#include "velor/text.h"
+
+namespace velor::app {
+
+namespace {
+
+const Section& valuesSection(const Report& report) {
+    return *std::find_if(report.sections.begin(), report.sections.end(),
+                         [&](const Section& section) { return section.key == report.csvTable; });
+}
+
+// What is drawn is the table that vlastnost prints: its first column against each of the others.
+Picture pictureOf(const Section& section, std::string_view symbol, const std::string& onlyCurve) {
+    const Table& table = std::get<Table>(section.content);
+    Picture picture{section.title, "T [K]", {}, {}};
+    for (std::size_t i = 1; i < table.columns.size(); ++i) {
+        const Column& column = table.columns[i];
+        if (column.audience == Column::Audience::Machines) continue;
+        picture.vertical = std::string(symbol) + (column.unit.empty() ? "" : " [" + column.unit + "]");
+        Curve curve{onlyCurve.empty() ? column.caption : onlyCurve, {}};
+        for (const auto& row : table.rows) curve.points.emplace_back(row.front().value, row[i].value);
+        picture.curves.push_back(std::move(curve));
+    }
+    return picture;
+}
+
+void requireTemperatures(const std::vector<double>& temperatures) {
+    if (temperatures.size() < 2) throw Failure(ExitCode::WrongUse, "Graf potřebuje aspoň dvě teploty.");
+}
+
+void requireDependence(const MixtureProperty& property) {
+    if (property.needsTemperature) return;
+    throw Failure(ExitCode::WrongUse,
+                  "Vlastnost " + std::string(property.code) + " na teplotě nezávisí, graf nelze nakreslit.");
+}
+
+// "Voda 0.4, Ethanol 0.6 (molově)"
+std::string mixtureName(const Mixture& mixture) {
+    if (mixture.substances.size() == 1) return mixture.substances.front().name;
+    std::string name;
+    for (std::size_t i = 0; i < mixture.substances.size(); ++i) {
+        name += (i == 0 ? "" : ", ") + mixture.substances[i].name + " " + roundedText(mixture.moleFractions[i]);
+    }
+    return name + " (molově)";
+}
+
+struct Drawing {
+    Report values;
+    Picture picture;
+};
+
+Drawing drawing(const PropertyRequest& request, const Database& database, UserInterface& userInterface) {
+    requireTemperatures(request.temperatures);
+    Report values = answer(request, database, userInterface);
+    Picture picture = pictureOf(valuesSection(values), wantedProperty(request.property->code).symbol, {});
+    return {std::move(values), std::move(picture)};
+}
+
+Drawing drawing(const MixturePropertyRequest& request, const Database& database, UserInterface& userInterface) {
+    requireDependence(*request.property);
+    requireTemperatures(request.temperatures);
+    const std::string name = mixtureName(findMixture(request.composition, database));
+    Report values = answer(request, database, userInterface);
+    Picture picture = pictureOf(valuesSection(values), request.property->symbol, name);
+    if (request.property->needsPressure) picture.title += " při " + roundedText(*request.pressure) + " Pa";
+    return {std::move(values), std::move(picture)};
+}
+
+}  // namespace
+
+Report answer(const GraphRequest& request, const Database& database, UserInterface& userInterface) {
+    const Drawing drawn =
+        std::visit([&](const auto& curves) { return drawing(curves, database, userInterface); }, request.curves);
+    drawPicture(drawn.picture, request.pictureFile);
+    const Section& values = valuesSection(drawn.values);
+    const int points = static_cast<int>(std::get<Table>(values.content).rows.size());
+    return {{pictureSection(request.pictureFile, points, values.notes)}, {}};
+}
+
+}  // namespace velor::app

@@ -1,0 +1,75 @@
+#include <algorithm>
+
+#include "people/people.h"
+#include "substances/substances.h"
+#include "velor/text.h"
+
+namespace velor::app {
+
+namespace {
+
+using Matches = std::vector<const Substance*>;
+
+constexpr std::size_t kMostComponents = 20;  // of one mixture object
+constexpr std::size_t kMostCandidates = 30;
+
+std::string listed(const Matches& matches) {
+    std::string lines;
+    for (std::size_t i = 0; i < std::min(matches.size(), kMostCandidates); ++i) {
+        const Substance& substance = *matches[i];
+        lines += "\n  " + std::to_string(substance.number) + "  " + substance.name;
+        if (!substance.synonym.empty()) lines += " – " + substance.synonym;
+        lines += "  " + substance.formula;
+    }
+    if (matches.size() > kMostCandidates)
+        lines += "\n  … a dalších " + std::to_string(matches.size() - kMostCandidates);
+    return lines;
+}
+
+std::string unknownText(std::string_view wanted) { return "Látka „" + std::string(wanted) + "“ není v bázi."; }
+
+std::string numbersOf(const SubstanceList& substances) {
+    return " Čísla látek jsou " + std::to_string(substances.front().number) + " až " +
+           std::to_string(substances.back().number) + ".";
+}
+
+std::string similarNames(const Matches& similar) { return similar.empty() ? "" : " Podobné názvy:" + listed(similar); }
+
+}  // namespace
+
+const Substance& findSubstance(const SubstanceList& substances, std::string_view wanted) {
+    const std::string_view text = trimBlanks(wanted);
+    const auto [outcome, candidates] = searchSubstance(substances, text);
+    switch (outcome) {
+        case Finding::Found:
+            break;
+        case Finding::NothingTyped:
+            throw Failure(ExitCode::WrongUse, "Chybí číslo, název, vzorec nebo CAS látky.");
+        case Finding::Unknown:
+            throw Failure(ExitCode::NothingComputed, unknownText(text) + similarNames(candidates));
+        case Finding::UnknownNumber:
+            throw Failure(ExitCode::NothingComputed, unknownText(text) + numbersOf(substances));
+        case Finding::Several:
+            throw Failure(ExitCode::NothingComputed, "„" + std::string(text) + "“ může být více látek (" +
+                                                         std::to_string(candidates.size()) + "):" + listed(candidates));
+    }
+    return *candidates.front();
+}
+
+SubstanceList findSubstances(const SubstanceList& substances, std::string_view wanted) {
+    SubstanceList found;
+    for (const std::string& name : splitSubstanceNames(substances, wanted)) {
+        const Substance& substance = findSubstance(substances, name);
+        const bool isKnown = std::any_of(found.begin(), found.end(),
+                                         [&](const Substance& other) { return other.number == substance.number; });
+        if (isKnown) throw Failure(ExitCode::WrongUse, "Látka " + substance.name + " je zadána dvakrát.");
+        found.push_back(substance);
+    }
+    if (found.size() > kMostComponents) {
+        throw Failure(ExitCode::WrongUse, "Zadáno " + std::to_string(found.size()) + " látek; nejvýše jich může být " +
+                                              std::to_string(kMostComponents) + ".");
+    }
+    return found;
+}
+
+}  // namespace velor::app

@@ -1,0 +1,66 @@
+// The substances of a database, and finding one by what people call it.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "velor/record.h"
+
+namespace velor {
+
+// What a record says of its substance: UTF-8, without the padding, control characters shown as "?".
+struct Substance {
+    int number = 0;
+    std::string name;
+    std::string synonym;
+    std::string formula;
+    std::string cas;  // registry number with hyphens; empty when not known
+};
+
+using SubstanceList = std::vector<Substance>;
+
+Substance substanceOf(int number, const TLatka& record);
+
+// The used records of a database in the order of their numbers; none where the file is no database at all. Raises the
+// errors of opening the file: 53, 70, 75, 76.
+SubstanceList readSubstances(const std::string& databasePath);
+
+// The substance of that number; null where there is none.
+const Substance* findByNumber(const SubstanceList& substances, int number);
+
+// ---- The finder
+// ------------------------------------------------------------------------------------------------------ Letter case
+// and diacritics do not matter; in a formula they decide first (CO, Co).
+
+struct SubstanceName {
+    std::string text;
+    std::string folded;  // see folded() of text.h
+    bool isSimple;       // not two names in one text
+};
+
+// The texts of the name and the synonym and, where one holds two names ("Water (H2O)"), these as well.
+std::vector<SubstanceName> namesOf(const Substance& substance);
+
+enum class Finding {
+    Found,          // the one candidate
+    NothingTyped,   //
+    Unknown,        // the candidates have similar names, the most similar first
+    UnknownNumber,  // digits, but no substance has that number
+    Several,        // any of the candidates may be meant, in the order of their numbers
+};
+
+struct FoundSubstance {
+    Finding outcome;
+    std::vector<const Substance*> candidates;  // of the list searched
+};
+
+// The substance that is meant by a number, or a CAS number, a whole name, a formula, a part of a name; what comes first
+// wins.
+FoundSubstance searchSubstance(const SubstanceList& substances, std::string_view wanted);
+
+// The names in a list as splitItems takes it. A comma that belongs to a whole name (2,2-Dimethylpropan) does not
+// separate.
+std::vector<std::string> splitSubstanceNames(const SubstanceList& substances, std::string_view wanted);
+
+}  // namespace velor
