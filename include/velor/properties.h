@@ -15,8 +15,7 @@ namespace velor {
 
 class Smes;
 
-// ---- Pure substances
-// -------------------------------------------------------------------------------------------------
+// ---- Pure substances ----------------------------------------------------------------------------
 
 // The properties of a component, numbered as Smes::FFce takes them. The density at the temperature that gives the
 // component the mixture's reduced temperature is one more that mixtures are mixed of; FFce knows it not by a number.
@@ -43,8 +42,7 @@ inline constexpr int kWater = 1;  // substance 1 of the database is water, by ru
 // What has to be said where a substance's equation of a property is shown but not used; mostly empty.
 std::string_view correlationNote(int substance, int property);
 
-// ---- Mixtures
-// --------------------------------------------------------------------------------------------------------
+// ---- Mixtures -----------------------------------------------------------------------------------
 
 // A set of pure properties.
 class Correlations {

@@ -29,9 +29,8 @@ SubstanceList readSubstances(const std::string& databasePath);
 // The substance of that number; null where there is none.
 const Substance* findByNumber(const SubstanceList& substances, int number);
 
-// ---- The finder
-// ------------------------------------------------------------------------------------------------------ Letter case
-// and diacritics do not matter; in a formula they decide first (CO, Co).
+// ---- The finder ---------------------------------------------------------------------------------
+// Letter case and diacritics do not matter; in a formula they decide first (CO, Co).
 
 struct SubstanceName {
     std::string text;

@@ -39,16 +39,14 @@ struct PropertyValue {
     bool isComputed() const { return standing <= Standing::BelowCritical; }
 };
 
-// ---- Pure substances
-// ------------------------------------------------------------------------------------------------- Of the component
-// loaded into the slot (from 1), at T kelvin. Raise nothing but error 6 for a damaged record.
+// ---- Pure substances ----------------------------------------------------------------------------
+// Of the component loaded into the slot (from 1), at T kelvin. Raise nothing but error 6 for a damaged record.
 
 bool isGiven(const Smes& smes, int slot, int property);
 
 PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& property);
 
-// ---- Mixtures
-// --------------------------------------------------------------------------------------------------------
+// ---- Mixtures -----------------------------------------------------------------------------------
 
 // One property of a mixture at one point, and what decided on it.
 struct MixtureVerdict {

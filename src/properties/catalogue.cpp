@@ -11,8 +11,7 @@ namespace velor {
 
 namespace {
 
-// ---- Pure substances
-// -------------------------------------------------------------------------------------------------
+// ---- Pure substances ----------------------------------------------------------------------------
 
 constexpr std::array<PureProperty, 10> kPureProperties{{
     {kETAG, "ETAG", "viskozita plynu", "Pa·s"},
@@ -27,8 +26,7 @@ constexpr std::array<PureProperty, 10> kPureProperties{{
     {kSIGMA, "SIGMA", "povrchové napětí", "N/m"},
 }};
 
-// ---- Mixtures
-// --------------------------------------------------------------------------------------------------------
+// ---- Mixtures -----------------------------------------------------------------------------------
 
 using Method = MixtureProperty::Method;
 
