@@ -1,7 +1,10 @@
 // Checking, normalising and converting fractions.
 #include "properties/composition.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -50,12 +53,13 @@ Variant convert(State& state, const Variant& from, Variant& to, Conversion conve
 
 double molarMass(const State& state, const Composition& X) {
     const int n = state.definition.PocSlozek;
-    ComponentValues x(n), M(n);
+    std::array<double, ComponentSlots::kCount> x, M;  // not cleared: this runs in most methods, and fills what it uses
     for (int i = 1; i <= n; ++i) {
-        x[i] = X.at(i);
-        M[i] = state.definition.slots.Latka(i).Mv;
+        x[ComponentSlots::index(i)] = X.at(i);
+        M[ComponentSlots::index(i)] = state.definition.slots.Latka(i).Mv;
     }
-    return meanMolarMass(x.first(n), M.first(n));
+    const auto count = static_cast<std::size_t>(std::max(n, 0));
+    return meanMolarMass(std::span(x).first(count), std::span(M).first(count));
 }
 
 std::optional<double> VSM(State& state, const Composition& X) {

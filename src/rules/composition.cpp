@@ -27,12 +27,6 @@ void normalise(std::span<double> x) {
     for (double& fraction : x) fraction = checked::divide(fraction, sum);
 }
 
-double moleMean(std::span<const double> x, std::span<const double> y) {
-    double sum = 0.0;
-    for (std::size_t i = 0; i < x.size(); ++i) sum += x[i] * y[i];
-    return sum;
-}
-
 void massFractions(std::span<const double> x, std::span<const double> M, std::span<double> w) {
     for (std::size_t i = 0; i < x.size(); ++i) w[i] = x[i] * M[i];
     divideBySum(w);

@@ -1,6 +1,7 @@
 // Arithmetic of fractions. All arrays have the same length, one element a component.
 #pragma once
 
+#include <cstddef>
 #include <span>
 
 namespace velor {
@@ -14,7 +15,11 @@ double sumOf(std::span<const double> x);
 void normalise(std::span<double> x);
 
 // sum(x y), the mole-fraction mean of pure values y, in their unit.
-double moleMean(std::span<const double> x, std::span<const double> y);
+inline double moleMean(std::span<const double> x, std::span<const double> y) {
+    double sum = 0.0;
+    for (std::size_t i = 0; i < x.size(); ++i) sum += x[i] * y[i];
+    return sum;
+}
 
 // Molar mass of a mixture: sum(x M). [kg/mol]
 inline double meanMolarMass(std::span<const double> x, std::span<const double> M) { return moleMean(x, M); }
