@@ -7,7 +7,7 @@ binaries=$root/build/mingw-x64
 
 # Each line that the program prints is the name of a form which stands on the screen until it is answered.
 take_pictures() {
-    coproc program { "$wine" "$binaries/tests/windows/form_pictures.exe"; }
+    coproc program { "$wine" "$binaries/tools/pictures/form_pictures.exe"; }
     local shown=${program[0]} answers=${program[1]} pid=$program_PID
     while read -r name <&"$shown"; do
         name=${name%$'\r'}
@@ -27,4 +27,4 @@ fi
 install_packages "${needed_for_windows[@]}" imagemagick
 wine=$(command -v wine64 || echo /usr/lib/wine/wine64)
 mkdir -p "$pictures"
-"$root/tests/windows/on_screen.sh" "$wine" "$binaries/wine-screen" "${BASH_SOURCE[0]}" --on-screen "$wine"
+"$root/tools/pictures/on_screen.sh" "$wine" "$binaries/wine-screen" "${BASH_SOURCE[0]}" --on-screen "$wine"

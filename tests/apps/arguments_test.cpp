@@ -41,5 +41,20 @@ TEST(ArgumentsTest, wrongUseIsSaidInCzech) {
     for (const auto& [line, phrase] : cases) expectFailure(run(words(line)), 2, phrase);
 }
 
+TEST(ArgumentsTest, theManualPageIsTypesetAndHoldsTheHelp) {
+    const TemporaryFolder folder;
+    const std::string typeset =
+        "export LC_ALL=C.UTF-8; groff -k -man -Tutf8 -P-cbou -ww \"$1\" && lexgrog \"$1\" >/dev/null";
+    const Outcome page = run({"-c", typeset, "bash", folder.write("velor.1", run({"prirucka"}).out)}, "/bin/bash");
+    EXPECT_EQ(page.exitCode, 0);
+    EXPECT_EQ(page.error, "");
+    for (const char* phrase : {"\n       velor vlastnost [VLASTNOST] [přepínače]\n", "\n   velor rovnovaha\n",
+                               "\n       -T, --teplota TEPLOTA\n",
+                               "\n       velor graf VLASTNOST --latky LÁTKY --vystup OBRÁZEK [přepínače]\n",
+                               "\nPŘEPÍNAČE\n", "\n              SIGMA  povrchové napětí\n",
+                               "\n           velor ukazka benzen -T 350\n", "\n       --latky LÁTKY (povinné)\n"})
+        expectMentions(page.out, phrase);
+}
+
 }  // namespace
 }  // namespace velor::test

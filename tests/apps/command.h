@@ -37,48 +37,27 @@ inline Words words(const std::string& line, const Words& more = {}) {
 
 inline const std::string kVelor = std::string(VELOR_PROGRAMS) + "/velor";
 
-class FileActions {
-  public:
-    FileActions() { posix_spawn_file_actions_init(&actions_); }
-    ~FileActions() { posix_spawn_file_actions_destroy(&actions_); }
-    FileActions(const FileActions&) = delete;
-    FileActions& operator=(const FileActions&) = delete;
-
-    void open(int descriptor, const std::string& path, int flags) {
-        posix_spawn_file_actions_addopen(&actions_, descriptor, path.c_str(), flags, 0600);
-    }
-    void duplicate(int from, int to) { posix_spawn_file_actions_adddup2(&actions_, from, to); }
-    const posix_spawn_file_actions_t* get() const { return &actions_; }
-
-  private:
-    posix_spawn_file_actions_t actions_{};
-};
-
-// The exit code of a program run with the given streams; -1 where a signal ended it.
-inline int exitCodeOf(const std::string& program, Words words, const FileActions& streams) {
+// The outcome of a program on an input.
+inline Outcome run(Words words, const std::string& program = kVelor, const std::string& input = "") {
+    const TemporaryFolder folder;
+    posix_spawn_file_actions_t streams{};
+    posix_spawn_file_actions_init(&streams);
+    const auto open = [&](int descriptor, const std::string& path, int flags) {
+        posix_spawn_file_actions_addopen(&streams, descriptor, path.c_str(), flags, 0600);
+    };
+    open(STDIN_FILENO, folder.write("in", input), O_RDONLY);
+    open(STDOUT_FILENO, folder / "out", O_WRONLY | O_CREAT);
+    open(STDERR_FILENO, folder / "err", O_WRONLY | O_CREAT);
     words.insert(words.begin(), program);
     std::vector<char*> arguments;
     for (std::string& word : words) arguments.push_back(word.data());
     arguments.push_back(nullptr);
     pid_t process = 0;
-    EXPECT_EQ(posix_spawn(&process, program.c_str(), streams.get(), nullptr, arguments.data(), environ), 0) << program;
     int status = 0;
+    EXPECT_EQ(posix_spawn(&process, program.c_str(), &streams, nullptr, arguments.data(), environ), 0) << program;
     EXPECT_EQ(waitpid(process, &status, 0), process);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
-inline Outcome run(const Words& words, const std::string& program = kVelor, const std::string& input = "") {
-    const TemporaryFolder folder;
-    constexpr int kWrite = O_WRONLY | O_CREAT | O_TRUNC;
-    FileActions streams;
-    streams.open(STDIN_FILENO, folder.write("in", input), O_RDONLY);
-    streams.open(STDOUT_FILENO, folder / "out", kWrite);
-    streams.open(STDERR_FILENO, folder / "err", kWrite);
-    Outcome outcome;
-    outcome.exitCode = exitCodeOf(program, words, streams);
-    outcome.out = readFile(folder / "out");
-    outcome.error = readFile(folder / "err");
-    return outcome;
+    posix_spawn_file_actions_destroy(&streams);
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, readFile(folder / "out"), readFile(folder / "err")};
 }
 
 // In a shell, where the answers or the surroundings come from somebody else.

@@ -4,13 +4,6 @@
 namespace velor::test {
 namespace {
 
-TEST(DatabaseChoiceTest, theUsualOneIsBesideTheCommandAndAnotherMayBeChosen) {
-    EXPECT_NEAR(run(words("vlastnost TENS --latky voda -T 373.15 --json")).json()["hodnoty"][0]["1"], 101325, 500);
-    const SmallDatabase database;
-    EXPECT_EQ(run({"--baze", database.path(), "latka", "7", "--json"}).json()["latka"]["nazev"], "Kobalt");
-    EXPECT_EQ(run({"latka", "7", "--json", "--baze", database.path()}).json()["latka"]["nazev"], "Kobalt");
-}
-
 TEST(DatabaseChoiceTest, whatIsNoDatabaseIsRefused) {
     const TemporaryFolder folder;
     const std::pair<std::string, const char*> cases[] = {

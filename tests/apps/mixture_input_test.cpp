@@ -70,14 +70,6 @@ TEST(MixtureInputTest, whatCannotBeComputedIsSaidInWordsAndInTime) {
         expectMentions(partly.out, phrase);
 }
 
-TEST(MixtureInputTest, damagedRecordsAreErrorsInWords) {
-    const SmallDatabase database;
-    const std::string pair = " --latky 2,10 --slozeni 0.5,0.5 -T 300";
-    expectFailure(database.run(words("vlastnost SIGMA" + pair)), 1, "Toluen, SIGMA: Vlastnost není");
-    expectFailure(database.run(words("vlastnost CPL" + pair)), 1, "Toluen, CPL: Při výpočtu");
-    expectFailure(database.run(words("smes --latky 11")), 1, "(chyba 6)");
-}
-
 TEST(MixtureInputTest, theTimeLimitEndsTheCommand) {
     expectFailure(run(words("rovnovaha --latky 1,2 --body 1001 --limit 0.0001")), 4, "neskončil do 0.0001 s");
 }

@@ -47,24 +47,6 @@ TEST_F(PropertyTest, whatCannotBeComputedIsSaidInWords) {
     }
 }
 
-TEST_F(PropertyTest, substancesAreSeparatedButForCommasInNames) {
-    const std::pair<const char*, std::vector<int>> cases[] = {
-        {" voda , kyselina octova ", {1, 4}},
-        {"ethan,2,2-Dimethylpropan,2", {8, 5, 2}},
-        {"2,2-Dimethylpropan;2", {5, 2}},
-        {"64-17-5,h2o", {2, 1}},
-    };
-    for (const auto& [list, numbers] : cases) {
-        std::vector<int> found;
-        const auto answer = vlastnost("ETAG", list, "300").json();
-        for (const auto& substance : answer["latky"]) found.push_back(substance["cislo"]);
-        EXPECT_EQ(found, numbers) << list;
-    }
-    expectFailure(vlastnost("ETAG", "1,voda", "300"), 2, "Voda je zadána dvakrát");
-    expectFailure(vlastnost("ETAG", "1,", "300"), 2, "Chybí číslo, název");
-    expectFailure(vlastnost("ETAG", "1,xyzzyq", "300"), 1, "xyzzyq");
-}
-
 TEST_F(PropertyTest, temperaturesAreListsAndRanges) {
     const std::pair<const char*, std::vector<double>> cases[] = {
         {"300,310.5, 320", {300, 310.5, 320}},
@@ -95,15 +77,6 @@ TEST_F(PropertyTest, temperaturesThatAreNoneAreRefused) {
         {"1:1e300:1e-300", "nejvýše jich může být 10000"}};
     // clang-format on
     for (const auto& [text, phrase] : cases) expectFailure(vlastnost("ETAG", "2", text), 2, phrase);
-}
-
-TEST_F(PropertyTest, theTourShowsAllTen) {
-    const auto values = database.run(words("ukazka toluen -T 300 --json")).json()["vlastnosti"];
-    ASSERT_EQ(values.size(), 10U);
-    EXPECT_NEAR(values[0]["hodnota"], 301, 1e-9);
-    EXPECT_EQ(values[9]["stav"], "nedáno");
-    expectMentions(database.run(words("ukazka toluen")).out, "Vlastnosti při 298.15 K");
-    expectFailure(database.run(words("ukazka toluen -T 300:310:1")), 2, "není číslo");
 }
 
 }  // namespace

@@ -20,30 +20,18 @@ Numbers numbersOf(const Outcome& outcome) {
     return numbers;
 }
 
-// What the list is sorted by.
-std::string first15Characters(const std::string& name) {
-    std::string_view rest = name;
-    for (int i = 0; i < 15 && !rest.empty(); ++i) takeCodePoint(rest);
-    return name.substr(0, name.size() - rest.size());
-}
-
 struct SubstanceListTest : ::testing::Test {
     TemporaryFolder folder;
     SmallDatabase database;
 };
 
-TEST_F(SubstanceListTest, holdsEverySubstanceOnceInOrder) {
+TEST_F(SubstanceListTest, holdsEverySubstanceOnce) {
     const std::string copy = folder / "VELOR.DRC";
     std::filesystem::copy_file(VELOR_DATABASE, copy);
     Numbers all(480);
     std::iota(all.begin(), all.end(), 1);
     EXPECT_EQ(numbersOf(run(words("seznam --podle cisel --json --baze " + copy))), all);
 
-    const auto document = run(words("seznam --json --baze " + copy)).json();
-    std::vector<std::string> keys;
-    for (const auto& row : document["seznam"]) keys.push_back(first15Characters(row["nazev"]));
-    EXPECT_EQ(keys.size(), 480U);
-    EXPECT_TRUE(std::is_sorted(keys.begin(), keys.end()));
     std::istringstream lines(run(words("seznam --baze " + copy)).out);
     for (std::string line; std::getline(lines, line);) EXPECT_LE(characterCount(line), 106U) << line;
 }
@@ -74,27 +62,6 @@ TEST_F(SubstanceListTest, hasTheSameColumnsInEveryForm) {
               "10,Toluen,\"Methylbenzen, Toluol\",C7H8,\n");
     EXPECT_EQ(database.run({"seznam", "ethyla", "--json"}).json(), nlohmann::json::parse(R"({"seznam": [{
         "cislo": 2, "nazev": "Ethanol", "synonym": "Ethylalkohol", "vzorec": "C2H6O", "CAS": "64-17-5"}]})"));
-}
-
-TEST_F(SubstanceListTest, numbersMayHaveFourDigits) {
-    std::vector<TLatka> records(1234, blankRecord());
-    records[33] = sampleSubstance(34, "C");
-    records[233] = sampleSubstance(234, "B");
-    records[1233] = sampleSubstance(1234, "A");
-    const std::string path = folder.write("VELOR.DRC", databaseBytes(records));
-    EXPECT_EQ(numbersOf(run({"seznam", "--json", "--baze", path})), (Numbers{1234, 234, 34}));
-    folder.write("VELOR.DRC", databaseBytes(sampleSubstances(901)));
-    expectFailure(run({"seznam", "--baze", path}), 1, "Seznam látek nelze sestavit: ");
-}
-
-TEST_F(SubstanceListTest, theDatabaseMayHaveAnyNameAndPlace) {
-    folder.write("sub/jiná báze.x", databaseBytes(awkwardSubstances()));
-    for (const std::string& typed : {folder / "sub/jiná báze.x", std::string("./sub/jiná báze.x")}) {
-        EXPECT_EQ(numbersOf(runInShell("cd " + folder.path() + " && " + kVelor + " seznam voda --json --baze '" +
-                                       typed + "'")),
-                  Numbers{1});
-        EXPECT_TRUE(std::filesystem::remove(folder / "sub/SEZNAM.DAT")) << typed;
-    }
 }
 
 TEST_F(SubstanceListTest, aReadOnlyFolderIsNoObstacle) {

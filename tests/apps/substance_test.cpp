@@ -52,16 +52,6 @@ TEST_F(SubstanceTest, whatIsUnknownIsSaidSo) {
     expectFailure(latka({"11"}), 1, "přetečení nebo poškozené číslo (chyba 6)");
 }
 
-TEST_F(SubstanceTest, constantsThatAreNotKnownHaveNoValue) {
-    const auto document = latka({"10"}).json();
-    EXPECT_TRUE(document["konstanty"]["Gyr"]["hodnota"].is_null());
-    EXPECT_EQ(document["konstanty"]["Mv"]["hodnota"], 0.046);  // the decimal number, not its nearest single
-    EXPECT_EQ(document["konstanty"]["Mv"]["jednotka"], "kg/mol");
-    EXPECT_EQ(document["latka"]["CAS"], "");
-    expectMentions(latka({"10"}, "--csv").out, "\nGyr,gyrační poloměr,,m\n");
-    expectMentions(latka({"10"}, "").out, "gyrační poloměr             neznámá\n");
-}
-
 TEST_F(SubstanceTest, correlationsAreShownAsTheRecordHoldsThem) {
     const auto correlations = latka({"10"}).json()["korelace"];
     ASSERT_EQ(correlations.size(), 10U);

@@ -1,6 +1,5 @@
-// Runs a program and answers the boxes that it shows: attended.exe PROGRAM ARGUMENT... The boxes' titles go to the
-// standard output; the exit code is the program's.
-#include <cstdio>
+// Runs a program and answers the boxes that it shows: attended.exe PROGRAM ARGUMENT... The exit code is the program's.
+#include <string>
 
 #include "com/box_watcher.h"
 
@@ -12,12 +11,11 @@ int wmain(int argc, wchar_t** argv) {
     PROCESS_INFORMATION process{};
     if (!CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &process))
         return 1;
-    velor::test::BoxWatcher watcher(process.dwProcessId);
+    const velor::test::BoxWatcher watcher(process.dwProcessId);
     WaitForSingleObject(process.hProcess, INFINITE);
     DWORD code = 1;
     GetExitCodeProcess(process.hProcess, &code);
     CloseHandle(process.hThread);
     CloseHandle(process.hProcess);
-    for (const velor::test::Box& box : watcher.boxes()) std::printf("box: %s\n", box.title.c_str());
     return static_cast<int>(code);
 }

@@ -1,5 +1,5 @@
-' A stranger's script: every member at least once, late-bound, and what comes back. Prints what fails; the last line
-' tells that it came to its end.
+' A stranger's script: late-bound members and what comes back; the mixture's values are compared elsewhere. Prints what
+' fails; the last line tells that it came to its end.
 Option Explicit
 Dim s, X(2), W(2), T, P, i, v, failures
 failures = 0
@@ -61,29 +61,15 @@ Positive s.VSM(X), "VSM": Check IsEmpty(s.PocetSmesi(X)), "PocetSmesi"
 
 ' Properties
 T = 330: P = 101325
-Positive s.FFce(T, 1, 9), "FFce"
-Positive s.ROLW(T, X), "ROLW": Near s.Slozeni(2), 0.6, "Slozeni": Positive s.ETAL(T, X), "ETAL": Positive s.ALAL(T, X), "ALAL"
-Near s.CPL(T, X) / s.CPLW(T, X), s.VSM(X), "CPLW": Near s.DHV(T, X) / s.DHVW(T, X), s.VSM(X), "DHVW"
-Near s.HL(T, X) / s.HLW(T, X), s.VSM(X), "HLW": Near s.SL(T, X) / s.SLW(T, X), s.VSM(X), "SLW"
-Positive s.SIGMA(T, X), "SIGMA": Positive s.TENS(T, X), "TENS": Positive s.PrL(T, X), "PrL"
-Positive s.ReL(T, X, 1, 0.1), "ReL": Positive s.ObjRozL(T, X), "ObjRozL"
-Positive s.PSEUD(X, "T"), "PSEUD": s.PseudShow X
-Near s.TKRITsm, s.PSEUD(X, "t"), "TKRITsm": Positive s.PKRITsm, "PKRITsm": Positive s.VKRITsm, "VKRITsm"
-Positive s.ZKRITsm, "ZKRITsm": Near s.MSm, s.VSM(X), "MSm"
-Positive s.ETAG(T, X), "ETAG": Positive s.ALAG(T, X), "ALAG": Near s.CPG(T, X) / s.CPGW(T, X), s.VSM(X), "CPGW"
-Positive s.ROGW(T, P, X), "ROGW"
+Positive s.ROLW(T, X), "ROLW": Near s.Slozeni(2), 0.6, "Slozeni"
+Positive s.ReL(T, X, 1, 0.1), "ReL": Positive s.ReG(T, P, X, 1, 0.1), "ReG": Positive s.PrG(T, P, X), "PrG"
+s.PseudShow X: Near s.TKRITsm, s.PSEUD(X, "t"), "TKRITsm": Positive s.PKRITsm, "PKRITsm"
+Positive s.VKRITsm, "VKRITsm": Positive s.ZKRITsm, "ZKRITsm": Near s.MSm, s.VSM(X), "MSm"
 s.Redlich = 1
-Positive s.TEVRP(1, T, P, X), "TEVRP": Positive s.RGHustota, "RGHustota": v = s.RGLnFug: v = s.RGJouleThomson
+Positive s.TEVRP(1, T, P, X), "TEVRP": Positive s.RGHustota, "RGHustota": Near s.LnFug(T, P, X), s.RGLnFug, "LnFug"
 Near s.RHG(T, P, X), s.RGEntalpie, "RHG": Near s.RSG(T, P, X), s.RGEntropie, "RSG"
 Near s.RUG(T, P, X), s.RGVnitrniEnergie, "RUG": Near s.RCPG(T, P, X), s.RGCp, "RCPG": Near s.RCVG(T, P, X), s.RGCv, "RCVG"
-Near s.RHG(T, P, X) / s.RHGW(T, P, X), s.VSM(X), "RHGW": Near s.RSG(T, P, X) / s.RSGW(T, P, X), s.VSM(X), "RSGW"
-Near s.RUG(T, P, X) / s.RUGW(T, P, X), s.VSM(X), "RUGW": Near s.RCPG(T, P, X) / s.RCPGW(T, P, X), s.VSM(X), "RCPGW"
-Near s.RCVG(T, P, X) / s.RCVGW(T, P, X), s.VSM(X), "RCVGW"
-Near s.Kapa(T, P, X), s.RGCp / s.RGCv, "Kapa": Near s.LnFug(T, P, X), s.RGLnFug, "LnFug"
-Near s.JTkoef(T, P, X), s.RGJouleThomson, "JTkoef": Positive s.RROGW(T, P, X), "RROGW"
-Positive s.RETAG(T, P, X), "RETAG": Positive s.RALAG(T, P, X), "RALAG": Positive s.PrG(T, P, X), "PrG"
-Positive s.ReG(T, P, X, 1, 0.1), "ReG"
-Near s.Vlastnost("rolw", X, T, P), s.ROLW(T, X), "Vlastnost"
+Near s.JTkoef(T, P, X), s.RGJouleThomson, "JTkoef": Near s.Vlastnost("rolw", X, T, P), s.ROLW(T, X), "Vlastnost"
 v = s.TBV(P, X): Check s.TRB(P, X) > v, "TRB above TBV"
 T = (v + s.TRB(P, X)) / 2
 Check InStr(s.FLASH(0, T, P, X), vbCrLf) > 0, "FLASH": Check s.lastFlash("outcome") = 3, "lastFlash"

@@ -8,7 +8,6 @@
 #include <cfenv>
 #include <future>
 #include <iostream>
-#include <map>
 
 #include "com/box_watcher.h"
 #include "com/com_client.h"
@@ -71,20 +70,6 @@ TEST(Identity, isOneObjectWithItsInterfacesAndNoOuterOne) {
     EXPECT_EQ(smes->QueryInterface(IID_IPersist, &nothing), E_NOINTERFACE);
     EXPECT_EQ(CoCreateInstance(__uuidof(::Smes), smes.get(), CLSCTX_INPROC_SERVER, IID_IUnknown, &nothing),
               CLASS_E_NOAGGREGATION);
-}
-
-TEST(Members, haveHelpAndNumbersOfTheirOwn) {
-    const Apartment apartment;
-    const auto smes = createSmes();
-    const auto information = typeOf(*smes);
-    std::map<MEMBERID, std::wstring> names;
-    for (const auto& [name, function] : membersOf(*smes)) {
-        BSTR help = nullptr;
-        information->GetDocumentation(function.memid, nullptr, &help, nullptr, nullptr);
-        EXPECT_FALSE(takeText(help).empty()) << platform::fromWide(name);
-        EXPECT_EQ(names.try_emplace(function.memid, name).first->second, name);
-    }
-    EXPECT_GT(names.size(), 130U);
 }
 
 TEST(Errors, haveNumberSourceAndDescription) {
@@ -241,24 +226,6 @@ TEST(Lifetime, theLibraryGoesWithItsLastObjectAndLock) {
     EXPECT_EQ(canUnload(), S_FALSE);  // the factory itself
     factory->Release();
     EXPECT_EQ(canUnload(), S_OK);
-}
-
-TEST(Apartments, twoWorkAtOnce) {
-    const auto work = [] {
-        const Apartment apartment;
-        std::vector<double> values;
-        for (int round = 0; round < 50; ++round) {
-            const auto smes = createSmes();
-            define(*smes, std::array{235, 1});
-            Passed X(Fractions({0.4, 0.6})), T(300.0 + round);
-            OwnVariant value;
-            EXPECT_EQ(smes->ROLW(T, X, value.get()), S_OK);
-            values.push_back(value->dblVal);
-        }
-        return values;
-    };
-    auto one = std::async(std::launch::async, work), other = std::async(std::launch::async, work);
-    EXPECT_EQ(one.get(), other.get());
 }
 
 }  // namespace

@@ -100,24 +100,5 @@ TEST(Conversion, keepsBoundsAndElementTypesOfArrays) {
     EXPECT_THROW(com::writeBack(List({"text", 1, 2}), argument), RunTimeError);
 }
 
-TEST(Conversion, writesIntoVariablesOfTheirOwnType) {
-    double number = 1;
-    short whole = 1;
-    VARIANT_BOOL flag = VARIANT_FALSE;
-    BSTR text = SysAllocString(L"before");
-    OwnVariant variant;
-    VARIANT arguments[] = {holding(VT_BYREF | VT_R8, &number), holding(VT_BYREF | VT_I2, &whole),
-                           holding(VT_BYREF | VT_BOOL, &flag), holding(VT_BYREF | VT_BSTR, &text),
-                           holding(VT_BYREF | VT_VARIANT, variant.get())};
-    for (VARIANT& argument : arguments) com::writeBack(2.5, argument);
-    EXPECT_EQ(number, 2.5);
-    EXPECT_EQ(whole, 2);
-    EXPECT_EQ(flag, VARIANT_TRUE);
-    EXPECT_TRUE(takeText(text).starts_with("2"));
-    EXPECT_EQ(com::toVariant(*variant), Variant(2.5));
-    EXPECT_THROW(com::writeBack(1e9, arguments[1]), RunTimeError);
-    EXPECT_EQ(whole, 2);
-}
-
 }  // namespace
 }  // namespace velor::test

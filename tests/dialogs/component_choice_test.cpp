@@ -61,33 +61,6 @@ TEST_F(ChoiceForm, walksThroughTheBoxes) {
     for (const TextBox& box : form.T_Smes) EXPECT_EQ(box.text, "");
 }
 
-TEST_F(ChoiceForm, letsOnlyDigitsAndControlKeysSurvive) {
-    for (const int key : {32, 45, 47, 58, 97, 225}) {
-        type(0, "12");
-        press(0, key);
-        EXPECT_EQ(text(0), "") << key;
-    }
-    type(0, "12");
-    press(0, 8);
-    EXPECT_EQ(text(0), "12");
-}
-
-TEST_F(ChoiceForm, picksFromTheList) {
-    form.doubleClick();  // nothing selected
-    for (int line = 0; line < 3; ++line) {
-        form.selectLine(line);
-        line == 1 ? form.keyInList(kEnterKey) : form.doubleClick();
-    }
-    EXPECT_EQ(text(0) + text(1) + text(2), "700");
-    EXPECT_EQ(form.PocZadanych, 3);
-    EXPECT_EQ(errorNumber([&] { form.selectLine(3); }), 9);
-    while (form.PocZadanych < 20) form.doubleClick();
-    EXPECT_TRUE(exclamations.empty());
-    form.doubleClick();
-    EXPECT_EQ(exclamations, std::vector<std::string>{"Maximální počet složek směsi je 20"});
-    EXPECT_EQ(form.PocZadanych, 20);
-}
-
 TEST_F(ChoiceForm, confirmsWhatWasEntered) {
     type(0, "5");
     form.clickC_OK();  // without Enter the number does not count

@@ -59,38 +59,6 @@ TEST_F(ComponentDialogs, showsTheRecord) {
     EXPECT_EQ(shown.Korelace[8].A[0] + " " + shown.Korelace[8].range, "9.000 200 – 400 K");
 }
 
-TEST_F(ComponentDialogs, tellsWhatIsNotKnown) {
-    TLatka poor = sampleSubstance(1, "Chudá");
-    poor.Gyr = -9999;
-    poor.Vkr = NAN;
-    poor.CAS = 0;
-    poor.Korelace[0] = {};
-    SampleMixture other{{poor}};
-    other.smes.DefSmes(1, Fractions({1}));
-    other.boxes.nextDisplayActions = {[](frmLatka& form) {
-        EXPECT_EQ(form.CAS, "");
-        EXPECT_EQ(form.Konstanty[5].value + form.Konstanty[5].unit, "neobsazeno");
-        EXPECT_EQ(form.Konstanty[3].value, "poškozeno");
-        EXPECT_FALSE(form.Korelace[0].isGiven);
-        EXPECT_EQ(form.Hodnota, "Vlastnost není pro látku v bázi dána.");
-        form.selectProperty(3);
-        EXPECT_NE(form.selectedCorrelation().note, "");  // water's density has an equation of its own
-    }};
-    other.smes.mSloz_ZobrazL(1);
-    EXPECT_TRUE(other.boxes.nextDisplayActions.empty());
-    EXPECT_TRUE(other.boxes.messages.empty());
-}
-
-TEST_F(ComponentDialogs, openOnlyForALoadedComponent) {
-    for (const int i : {0, 3, 21, -1}) EXPECT_EQ(errorNumber([&] { smes.mSloz_ZobrazL(i); }), 9) << i;
-    for (const int i : {0, 3}) EXPECT_EQ(errorNumber([&] { smes.mSloz_ZobrazZ(i); }), 9) << i;
-    smes.DefSmes(2, Fractions({1, 3}));
-    boxes.messages.clear();
-    boxes.nextChangeActions = {[](F_Zmenaz&) { ADD_FAILURE() << "shown"; }};
-    smes.mSloz_ZobrazZ(2);
-    EXPECT_EQ(complaint(), "INIVLR: Látka č.  3 není v bázi!");
-}
-
 TEST_F(ComponentDialogs, changesWhatWasTypedAndNothingElse) {
     const float before = smes.Bod(2, 1);
     change([](F_Zmenaz& form) {
@@ -113,36 +81,6 @@ TEST_F(ComponentDialogs, changesWhatWasTypedAndNothingElse) {
     smes.DefSmes(2, Fractions({1, 2}));  // the file was not written
     smes.Inivlr();
     EXPECT_EQ(smes.Bod(2, 2), 500.0F);
-}
-
-TEST_F(ComponentDialogs, renamesTheLabelOfTheComposition) {
-    boxes.nextChangeActions = {[](F_Zmenaz& form) {
-        form.setText(F_Zmenaz::kNazev, "Líh");
-        form.clickC_OK();
-    }};
-    boxes.nextCompositionActions = {[](F_Sloz& form) {
-        form.mouseOnName(1, 2);
-        EXPECT_EQ(form.L_J[1].substr(0, 4), "Líh");
-        EXPECT_TRUE(form.visible);
-    }};
-    Variant n, X = Fractions({0, 0}), W = X;
-    smes.ZadejSloz(n, X, W);
-}
-
-TEST_F(ComponentDialogs, cancelChangesNothing) {
-    const auto spoil = [](auto& form) {
-        for (int field = 0; field < form.kFields; ++field) form.setText(field, "17");
-        form.clickC_Zpet();
-        EXPECT_FALSE(form.visible);
-    };
-    change(spoil);
-    change([](F_Zmenaz& form) { form.clickC_Data(); }, spoil);
-    EXPECT_TRUE(boxes.nextCorrectionActions.empty());
-    EXPECT_EQ(smes.Nazev(2).toText().substr(0, 5), "Éter");
-    EXPECT_EQ(smes.Bod(2, 1), 0.046F);
-    EXPECT_EQ(smes.VLRConst(2, 1, 1), 1.0F);
-    EXPECT_EQ(smes.VLRConst(2, 1, 7), 1.0F);
-    EXPECT_TRUE(boxes.messages.empty());
 }
 
 TEST_F(ComponentDialogs, refuseFieldByField) {
@@ -226,54 +164,6 @@ TEST_F(ComponentDialogs, showsValuesBeforeAndAfterACorrection) {
     EXPECT_EQ(smes.VLRConst(2, 1, 8), 0.0F);
     EXPECT_EQ(smes.VLRConst(2, 2, 1), 2.0F);  // the others keep theirs
     EXPECT_EQ(smes.VLRConst(1, 9, 3), 0.0F);
-}
-
-// What a mode that raises errors would throw out of the modal form is told in it.
-TEST_F(ComponentDialogs, surviveAValueThatCannotBeComputed) {
-    smes.ChyboveHlasky(-1);
-    change([](F_Zmenaz& form) { form.clickC_Data(); },
-           [](frmOprav& form) {
-               form.setText(frmOprav::kTyp, "6");  // exp(1 + 1/(0 + T)) first, then beyond every number
-               form.setText(frmOprav::kFirstCoefficient, "1e30");
-               form.clickC_Vypocet();
-               EXPECT_EQ(form.HodnotaPo, "Při výpočtu nastala chyba, rovnice nemá při této teplotě hodnotu.");
-           });
-    EXPECT_EQ(smes.FFce(300, 2, 1).toDouble(), 301.0);
-}
-
-TEST_F(ComponentDialogs, keepTheBytesOfUntouchedFields) {
-    TLatka odd = sampleSubstance(1, "Divná");
-    odd.Nazev[10] = '\x07';
-    odd.Vkr = NAN;
-    odd.Korelace[4].Priznak = 5;
-    odd.Korelace[4].Typ = 77;
-    odd.Korelace[6].A[0] = INFINITY;
-    const auto bytes = encodeRecord(odd);
-    F_Zmenaz names;
-    frmOprav data;
-    TLatka saved;
-    names.Ulozit = data.Ulozit = [&](const TLatka& record) { saved = record; };
-    names.load(odd);
-    names.clickC_OK();
-    EXPECT_EQ(encodeRecord(saved), bytes);
-    data.load(odd);
-    data.setText(frmOprav::kFirstCoefficient, "1");  // as it was
-    data.clickC_OK();
-    EXPECT_EQ(encodeRecord(saved), bytes);
-}
-
-TEST(ComponentForms, walkByEnter) {
-    F_Zmenaz names;
-    frmOprav data;
-    data.load(sampleSubstance(1, "Voda"));
-    names.keyPressed(18, kEnterKey);
-    data.keyPressed(8, kEnterKey);
-    EXPECT_EQ(names.focus, (Focus{Focus::Control::Confirm, 0}));
-    EXPECT_EQ(data.focus, (Focus{Focus::Control::Confirm, 0}));
-    names.keyPressed(0, kEnterKey);
-    EXPECT_EQ(names.focus, (Focus{Focus::Control::Value, 1}));
-    for (const int field : {-1, 19}) EXPECT_EQ(errorNumber([&] { names.setText(field, ""); }), 9);
-    for (const int index : {-1, 10}) EXPECT_EQ(errorNumber([&] { data.selectProperty(index); }), 9);
 }
 
 }  // namespace

@@ -7,10 +7,6 @@ namespace {
 
 using Texts = std::vector<std::string>;
 
-const Message kNoComposition{"Je třeba zadat složení směsi!", Icon::Critical, "VELOR"};
-const Message kUnknown{"Některá ze složek není v bázi (0), opravte neznámou složku,\revent. náhradní složku!",
-                       Icon::Critical, "VELOR"};
-
 struct Entry : SampleTest {
     static std::vector<TLatka> substances() {
         std::vector<TLatka> records = sampleSubstances(4);
@@ -33,22 +29,6 @@ struct Entry : SampleTest {
         return errorNumber([&] { smes.ZadejSloz(n, X, W); });
     }
 };
-
-TEST_F(Entry, prefillsByMode) {
-    const std::pair<Variant, std::string> cases[] = {
-        {Variant::missing(), ""}, {-1, "1.01.01.0"}, {3, "0.10000.20000.7000"}, {-2, "0.30000.30000.4000"}, {4, ""}};
-    for (const auto& [mode, expected] : cases) {
-        smes.DefSmes(3, Fractions({1, 2, 3}));
-        std::string texts, enabled;
-        boxes.nextCompositionActions = {[&](F_Sloz& form) {
-            for (const TextBox& box : form.T_S) texts += box.text, enabled += box.enabled ? "x" : "";
-            form.T_S[5] = {"left over", true, true};  // the next display shows none of it
-        }};
-        smes.ZadejSloz(n, X, W, "text", mode);
-        EXPECT_EQ(texts, expected);
-        EXPECT_EQ(enabled, "xxx");
-    }
-}
 
 TEST_F(Entry, convertsTheEnteredValues) {
     struct Case {
@@ -100,42 +80,6 @@ TEST_F(Entry, refusesWhatCannotBeAComposition) {
     smes.DefSmes(3, Fractions({1, 2, 3}));
     X = Fractions({1, 0});  // too short
     EXPECT_EQ(enter({"1", "1", "2"}), 9);
-}
-
-TEST_F(Entry, asksAgainAndLetsTheComponentsBeCorrected) {
-    smes.ZapisNslozky(1, 1);
-    smes.ZapisNslozky(2, 30);  // beyond the database
-    smes.ChyboveHlasky(2);
-    smes.Inivlr();
-    smes.ChyboveHlasky(0);
-    enterNext({"0", "1e-11"});  // a missing composition is told first
-    boxes.nextCompositionActions.push_back([](F_Sloz& form) {
-        EXPECT_EQ(form.T_S[0].text + form.T_S[1].text, "1.01.0");  // filled anew
-        form.clickC_OK();
-    });
-    boxes.nextComponentActions.push_back([](F_Seznam& form) {
-        form.setText(0, "2");
-        form.keyPressed(0, kEnterKey);
-        form.clickC_OK();
-    });
-    enterNext({"1"});
-    smes.ZadejSloz(n, X, W, "", 1);
-    EXPECT_EQ(boxes.messages, (std::vector{kNoComposition, kUnknown}));
-    EXPECT_EQ(n.toInt16(), 1);
-    EXPECT_EQ(smes.Nslozky(1).toInt16(), 2);
-    EXPECT_EQ(X, Fractions({1, 0.2, 0.7}));
-}
-
-TEST_F(Entry, backLeavesNoComponents) {
-    smes.DefSmes(2, Fractions({1, 2}));
-    boxes.nextCompositionActions.push_back([&](F_Sloz& form) {
-        form.clickC_Zpet();
-        EXPECT_EQ(smes.Nsloz().toInt16(), -9999);  // the marker between the form and the method
-    });
-    smes.ZadejSloz(n, X, W);
-    EXPECT_EQ(smes.Nsloz().toInt16(), 0);
-    EXPECT_EQ(n.toInt16(), 2);
-    EXPECT_TRUE(smes.MolZlomky(1).isEmpty());
 }
 
 }  // namespace

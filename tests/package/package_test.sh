@@ -82,11 +82,6 @@ add_subdirectory() {
     run "$work/add_subdirectory/consumer_static" "$prefix/share/velor/VELOR.DRC"
 }
 
-pkg_config_shared() {
-    compile "$work/shared" "$source/tests/package/consumer/consumer.cpp" $(flags --cflags --libs)
-    LD_LIBRARY_PATH=$(library_folder) run "$work/shared"
-}
-
 # Without any shared library, the C library included; VELOR.CFG lies beside the program then.
 pkg_config_static() {
     mkdir -p "$work/static"
@@ -148,27 +143,6 @@ debian() {
     diff <(run "$prefix/bin/velor" --baze "$file" "${question[@]}") <(run "$build/bin/velor" "${question[@]}")
     compile "$work/debian/program" "$source/tests/package/consumer/consumer.cpp" $(flags --cflags --libs)
     LD_LIBRARY_PATH=$(library_folder) run "$work/debian/program" "$file"
-}
-
-# Its VELOR.CFG leads nowhere: the question is asked, nobody says yes, and nothing is deleted.
-moved() {
-    local moved=$work/moved library program answer
-    rm -rf "$moved"
-    cp -a "$prefix" "$moved"
-    mv "$prefix" "$prefix.away"
-    trap 'mv "$prefix.away" "$prefix"' EXIT
-    library=$(dirname "$(find "$moved" -name libvelor.a)")
-    compile "$work/moved_program" "$source/tests/package/consumer/consumer.cpp" \
-        $(PKG_CONFIG_PATH=$library/pkgconfig pkg-config --cflags --libs velor)
-    for program in "$moved/bin/velor latka voda" "$work/moved_program"; do
-        answer=$(LD_LIBRARY_PATH=$library run $program) && fail "našel databázi: $program"
-        grep -q 'obsahuje odkaz na neexistující soubor VELOR.DRC!!!' <<<"$answer" || fail "$answer"
-        grep -qF 'Mám ho smazat sám? (Y/N)' <<<"$answer" || fail "$answer"
-    done
-    answer=$(LD_LIBRARY_PATH=$library timeout 30 "$moved/bin/velor" latka voda <&- 2>&1) && fail "našel databázi"
-    cmp "$prefix.away/bin/VELOR.CFG" "$moved/bin/VELOR.CFG"
-    diff -r "$prefix.away" "$moved"
-    LD_LIBRARY_PATH=$library run "$work/moved_program" "$moved/share/velor/VELOR.DRC"
 }
 
 "$case"

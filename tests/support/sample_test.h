@@ -17,18 +17,6 @@ struct SampleTest : ::testing::Test {
     std::vector<Message>& messages = mixture.boxes.messages;
 
     explicit SampleTest(const std::vector<TLatka>& records) : mixture(records) {}
-
-    // Which values the boxes say are missing, in order: "1ETAG 3ETAG "; the boxes are put away.
-    std::string takeMissing() {
-        std::string asked;
-        for (const Message& message : messages) {
-            const std::size_t name = message.text.find("vlast. ") + 7;
-            asked +=
-                message.text.substr(7, 1) + message.text.substr(name, message.text.find(" neni v bázi!") - name) + " ";
-        }
-        messages.clear();
-        return asked;
-    }
 };
 
 // What no method of two or more components can read, and the error that it is.

@@ -31,28 +31,6 @@ std::string replaced(std::string_view text, std::string_view from, std::string_v
     return result.replace(at, from.size(), to);
 }
 
-TEST(Compile, storesEveryCellWhereTheLibraryLooksForIt) {
-    const Compilation result = compile(kSubstances, kCorrelations, Checks::Full);
-    ASSERT_TRUE(result.succeeded());
-
-    TLatka water = test::sampleSubstance(1, "Voda");
-    test::setText(water.Synonym, "Water");
-    test::setText(water.Vzorec, "H2O");
-    water.CAS = 7732185;
-    const float constants[] = {0.018F, 647.1F, 2.2e7F, 5.6e-05F, 0.344F, -9999,   -9999,  -9999,
-                               -9999,  -9999,  -9999,  -9999,    6001,   273.15F, 373.15F};
-    for (int i = 1; i <= 15; ++i) water.*constantMember(i) = constants[i - 1];
-    for (TKorelace& block : water.Korelace) block = {};
-    water.Korelace[8] = {{23.2F, -3816.0F, -46.1F}, 6, 1, 290, 440};
-    EXPECT_EQ(result.bytes.substr(0, kRecordSize), test::databaseBytes({{water}}));
-
-    const TLatka blank = test::blankRecord();
-    ASSERT_EQ(result.bytes.size(), 8 * kRecordSize);
-    for (std::size_t i = 1; i < 7; ++i)
-        EXPECT_EQ(result.bytes.substr(i * kRecordSize, kRecordSize), test::databaseBytes({{blank}})) << i + 1;
-    EXPECT_EQ(result.bytes.substr(7 * kRecordSize + 2, 16), "Kyselina, \x9Elut\xE1 ");
-}
-
 TEST(Compile, reportsEachFaultOnItsLine) {
     enum Of { Form, Content };
     struct Fault {
