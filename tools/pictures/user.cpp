@@ -3,7 +3,7 @@
 #include <chrono>
 #include <stdexcept>
 
-#include "platform/windows/wide_text.h"
+#include "platform/windows/wide_text.h"  // the texts of windows are wide
 
 namespace velor::pictures {
 
