@@ -45,10 +45,11 @@ TEST(CatalogueTest, aRowReadsWhatItNeeds) {
         Moved object;
         const Variant T = property.needsTemperature ? Variant(kT) : none,
                       P = property.needsPressure ? Variant(kP) : none;
-        EXPECT_EQ(property.method(object.smes, T, P, object.X), Moved().value(property)) << property.code;
-        EXPECT_EQ(object.smes.Vlastnost(std::string(property.code), object.X, kT, kP).toDouble() > -9999,
-                  object.boxes.messages.empty())
-            << property.code;
+        const double value = Moved().value(property);
+        EXPECT_EQ(property.method(object.smes, T, P, object.X), value) << property.code;
+        // By name the enthalpy of a cold liquid counts as none.
+        const Variant byName = object.smes.Vlastnost(std::string(property.code), object.X, kT, kP);
+        EXPECT_TRUE(byName == value || property.isIntegral) << property.code;
     }
 }
 
