@@ -65,6 +65,7 @@ TEST(CompletionTest, candidatesOfALine) {
         // lists
         {"velor smes --latky voda,kys|", {"voda,Kyselina\\ octová"}},
         {"velor smes --latky voda,et|", {"voda,ethan", "voda,ethanol"}},
+        {"velor smes --latky ethan,et|", {"ethan,Ethanol"}},
         {"velor smes --latky 'voda, kys|", {"voda, Kyselina octová"}},
         {"velor smes --latky voda,2,2-d|", {"voda,2,2-Dimethylpropan"}},
         {"velor smes --latky voda,2,'2-d|", {"2-Dimethylpropan"}},
