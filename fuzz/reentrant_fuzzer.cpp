@@ -153,8 +153,9 @@ class Host final : public UserInterface {
         Variant T = temperature(), P = pressure(), converted = fractions();
         const Action calls[] = {
             [&] {
-                fuzz::requireFinite(smes_.Vlastnost(fuzz::kNames[static_cast<std::size_t>(below(38))], X, T, P),
-                                    "by name");
+                const auto properties = mixtureProperties();
+                const std::string code(properties[static_cast<std::size_t>(below(properties.size()))].code);
+                fuzz::requireFinite(smes_.Vlastnost(code, X, T, P), "by name");
             },
             [&] { fuzz::requireFinite(smes_.FFce(T, below(4), below(12)), "FFce"); },
             [&] { smes_.TBV(P, X); },

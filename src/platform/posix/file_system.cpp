@@ -131,8 +131,12 @@ class Replacement {
         for (int number = 0; number < kNames; ++number) {
             std::string name = path_ + ".velor-" + std::to_string(number);
             const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666);
-            if (descriptor < 0 && !::faccessat(AT_FDCWD, name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW)) continue;
-            if (descriptor < 0) raiseFileError(errno, path_);
+            if (descriptor < 0) {
+                const int error = errno;
+                const bool isTaken = ::faccessat(AT_FDCWD, name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
+                if (isTaken) continue;
+                raiseFileError(error, path_);
+            }
             if (isOurs(descriptor, name)) {
                 name_ = std::move(name);
                 return descriptor;
