@@ -85,6 +85,18 @@ TEST(CompletionTest, candidatesOfALine) {
               Words{"Kyselina octová"});
 }
 
+// An escaped character is replaced with its backslash; otherwise the backslash would escape the one put before it, and
+// bash would run what stands in the name.
+TEST(CompletionTest, aNameStaysAName) {
+    const TemporaryFolder folder;
+    const std::string at = folder.path();
+    folder.write("$(touch PWN).DRC", "");
+    folder.write("(kopie) VELOR.DRC", "");
+    EXPECT_EQ(candidates("velor seznam --baze \"" + at + "\\$|"), Words{at + "\\$(touch PWN).DRC"});
+    EXPECT_EQ(candidates("velor seznam --baze " + at + "\\$|"), Words{at + "\\$\\(touch\\ PWN\\).DRC"});
+    EXPECT_EQ(candidates("velor seznam --baze " + at + "\\(|"), Words{at + "\\(kopie\\)\\ VELOR.DRC"});
+}
+
 TEST(CompletionTest, isSilentWithoutADatabase) {
     const TemporaryFolder folder;
     EXPECT_EQ(candidates("velor --baze " + (folder / "nic") + " latka v|"), Words{});

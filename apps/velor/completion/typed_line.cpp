@@ -41,9 +41,9 @@ TypedLine::TypedLine(std::string_view line, std::string_view wordBreaks) : line_
     current_.quotes.push_back(quote_);
 }
 
-void TypedLine::add(std::size_t position) {
+void TypedLine::add(char c, std::size_t position) {
     isInWord_ = true;
-    current_.text += line_[position];
+    current_.text += c;
     current_.origins.push_back(position);
     current_.quotes.push_back(quote_);
 }
@@ -62,9 +62,11 @@ void TypedLine::read(std::string_view wordBreaks) {
         if (quote_ != 0 && c == quote_) {
             quote_ = 0;
         } else if (c == '\\' && (quote_ == 0 || (quote_ == '"' && contains("\"\\$`", next)))) {
-            if (i + 1 < line_.size()) add(++i);
+            if (i + 1 == line_.size()) continue;
+            add(next, i);  // whatever replaces it replaces its backslash, too
+            ++i;
         } else if (quote_ != 0) {
-            add(i);
+            add(c, i);
         } else if (c == '\'' || c == '"') {
             isInWord_ = true;
             quote_ = c;
@@ -77,7 +79,7 @@ void TypedLine::read(std::string_view wordBreaks) {
             before_.push_back({std::string(1, c), {i, i + 1}, {0, 0}, true});
             afterBreak = i + 1;
         } else {
-            add(i);
+            add(c, i);
             if (contains(wordBreaks, c)) afterBreak = contains(kKeptAtBreak, c) ? i : i + 1;
         }
     }

@@ -10,7 +10,7 @@ namespace velor::app {
 
 struct TypedWord {
     std::string text;                  // without quotes and escapes
-    std::vector<std::size_t> origins;  // where each byte of the text stands in the line, and its end
+    std::vector<std::size_t> origins;  // where each byte of the text begins in the line, with its backslash, and the end
     std::vector<char> quotes;          // the quote around each of these places, 0 for none
     bool isRedirection = false;        // "<", ">", ">>"
 };
@@ -30,7 +30,7 @@ class TypedLine {
 
   private:
     void read(std::string_view wordBreaks);
-    void add(std::size_t position);
+    void add(char c, std::size_t position);
     void finishWord();
 
     std::string line_;
