@@ -7,6 +7,7 @@
 namespace velor {
 
 inline constexpr float kNoConstant = -9999;  // in a record: not known
+inline constexpr double kNothing = -9999;    // of Smes::Vlastnost: nothing was computed
 
 struct ConstantDescription {
     std::string_view key;

@@ -1,4 +1,4 @@
-// The catalogue: all that is known of a property, one row each: ten of pure substances and 39 of mixtures.
+// The catalogue: all that is known of a property, one row each, of pure substances and of mixtures.
 // Smes::Vlastnost, Smes::PopisVlastnosti, the dialogs, the command and the documentation read it; nobody keeps a list
 // of his own. Captions, units and rules are what people see: Czech, UTF-8.
 #pragma once

@@ -352,7 +352,7 @@ class Smes {
     Variant TBV(const Variant& P, const Variant& X);
     Variant TRB(const Variant& P, const Variant& Y);
 
-    // How the last TBV and the last TRB ended, those of a flash included.
+    // How the last TBV and the last TRB ended, those of a flash included; None before the first.
     SaturationOutcome lastBubblePoint() const;
     SaturationOutcome lastDewPoint() const;
 
@@ -385,7 +385,8 @@ class Smes {
     int RezimSeznamu() const;
 
     // Shows the list: mode left out, 0 or 1 asks for the order; 2 asks for a text and shows the lines that hold it.
-    // Error 9: more than 800 lines. Where only SEZNAM.DAT cannot be written, here and in ZadejSmes, the list is shown.
+    // Errors: 9 more than 800 lines, 62 nobody answers, those of AkSeznam where the list is not built yet; where only
+    // SEZNAM.DAT cannot be written, here and in ZadejSmes, the list is shown.
     void SeznamShow(const Variant& mode = Variant::missing());
 
     // Sorts arr(first..last) by the first 17 characters of its texts; elements that are no texts stay what they are.
@@ -395,13 +396,14 @@ class Smes {
     // Exchanges two elements.
     static void SWAP(Variant& arr, int a, int b);
 
-    // Lets the user choose the components; they are loaded when the choice is confirmed.
+    // Lets the user choose the components; they are loaded when the choice is confirmed. Errors: those of AkSeznam
+    // where the list is not built yet, and of Inivlr.
     void ZadejSmes();
 
     // Lets the user enter the composition of the mixture, whose records are loaded first. n receives the number of
     // components, X(1..n) the mole and W(1..n) the mass fractions. mode prefills the values: |mode| = 1 equal parts, 2
-    // W, 3 X. Back leaves the mixture without components and everything else as it was. Errors: kRaisedToHost a
-    // negative value, 9 arrays that are too short.
+    // W, 3 X. Back leaves the mixture without components and X and W as they were. Errors: kRaisedToHost a
+    // negative value, 9 arrays that are too short, 11 a sum of 0 in mode 2 or no molar mass, those of Inivlr.
     void ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant& text = Variant::missing(),
                    const Variant& mode = Variant::missing());
 
@@ -423,12 +425,11 @@ class Smes {
 
     // ---- By name -------------------------------------------------------------------------------------------------
 
-    // The property of that name, in either letter case, without blanks around it. With T alone: ROLW ETAL ETAG ALAL
-    // ALAG CPL CPLW CPG CPGW SIGMA DHV DHVW SL SLW HL HLW TENS OBJROZL PRL VSM; with P too: ROGW RROGW RCPG RCPGW RCVG
-    // RCVGW RALAG RETAG RHG RHGW RSG RSGW RUG RUGW LNFUG KAPA JTKOEF TBV TRB. -9999 when nothing was computed: an
-    // unknown name, a pressure within 1e-06 of 0, an error (a message, or in mode -1 kRaisedToHost unless the kind of
-    // an argument was wrong). A value of the first list at or below -9999, as HL of a cold liquid may be, counts as not
-    // found and ends in the unknown-name message, as built.
+    // The property of that name, in either letter case and without blanks around it: a code of velor/properties.h.
+    // Those that need no pressure do not read P. -9999 when nothing was computed: an unknown name, a pressure within
+    // 1e-06 of 0, an error (a message, or in mode -1 kRaisedToHost unless the kind of an argument was wrong). A value
+    // of the first list at or below -9999, as HL of a cold liquid may be, counts as not found and ends in the
+    // unknown-name message, as built.
     Variant Vlastnost(const std::string& Name, const Variant& X, const Variant& T, const Variant& P);
 
   private:

@@ -1,7 +1,5 @@
 #include "com/flash_item.h"
 
-#include <span>
-
 #include "runtime/checked.h"
 #include "runtime/text.h"
 

@@ -78,7 +78,8 @@ Converted convert(const Definition& definition, const std::vector<double>& value
     for (int i = 1; i <= definition.PocSlozek; ++i) M.push_back(definition.slots.Latka(i).Mv);
     Converted both{values, values};
     std::vector<double>& other = molar ? both.mass : both.mole;
-    molar ? massFractions(values, M, other) : moleFractions(values, M, other);
+    molar ? massParts(values, M, other) : moleParts(values, M, other);
+    normalise(other);  // a sum near 0 is no exception here
     if (other.size() == 1) other.front() = 1.0;
     return both;
 }
@@ -116,13 +117,10 @@ void Smes::mZadSmes_SZavrit(const CislaLatek& numbers) {
     state.definition.PocSlozek = n;
     for (int i = 1; i <= n; ++i) state.definition.slots.setCisloLatky(i, numbers[ComponentSlots::index(i) + 1]);
     if (n < ComponentSlots::kCount) state.definition.slots.setCisloLatky(n + 1, 0);
-    const auto tellFailure = [&] {
-        showUnlessSilent(state.messages, "Nemohu načíst z " + state.place.DataFileName + "!", Icon::Critical);
-    };
     try {
-        if (loadComponents(state) == 0) tellFailure();
+        if (loadComponents(state) == 0) tellLoadFailure(state);
     } catch (const RunTimeError&) {
-        tellFailure();
+        tellLoadFailure(state);
         throw;
     }
 }

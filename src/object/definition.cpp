@@ -1,7 +1,6 @@
 // Choosing which substances form the mixture.
 #include <cmath>
 #include <cstdlib>
-#include <utility>
 
 #include "object/load.h"
 #include "object/messages.h"
@@ -18,7 +17,7 @@ constexpr const char* kDefinitionTitle = "Definice složek";
 // Loads a new definition; afterwards it counts as not loaded, so that the next property call reads the records.
 void loadDefinition(State& state) {
     if (loadComponents(state) == 0 && state.messages.ChyboveHlasky < 2) {
-        show(state.messages, "Nemohu načíst z " + state.place.DataFileName + "!", Icon::Critical);
+        tellLoadFailure(state);
         return;
     }
     state.definition.Nacteno = 0;
@@ -108,8 +107,8 @@ void Smes::Nsloz(const Variant& count) {
     const std::int16_t n = count.toInt16();
     if (n >= state_->definition.PocSlozek) return;
     state_->definition.PocSlozek = n;
-    state_->definition.slots.setCisloLatky(n + 1,
-                                           0);  // a negative count is kept and fails here, deliberately unguarded
+    // A negative count is kept and fails here, deliberately unguarded.
+    state_->definition.slots.setCisloLatky(n + 1, 0);
 }
 
 }  // namespace velor

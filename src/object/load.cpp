@@ -41,6 +41,10 @@ std::int16_t loadComponents(State& state) {
     return state.definition.PocSlozek;
 }
 
+void tellLoadFailure(const State& state) {
+    showUnlessSilent(state.messages, "Nemohu načíst z " + state.place.DataFileName + "!", Icon::Critical);
+}
+
 Variant Smes::Inivlr() { return loadComponents(*state_); }
 
 }  // namespace velor

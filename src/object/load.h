@@ -11,6 +11,9 @@ namespace velor {
 // See Smes::Inivlr. Returns the number of components, 0 when one is missing from the database.
 std::int16_t loadComponents(State& state);
 
+// Says that the records cannot be loaded, in every mode but 2.
+void tellLoadFailure(const State& state);
+
 // The 30 characters of component i's name; an empty text for an empty slot.
 std::string componentName(const ComponentSlots& slots, int i);
 

@@ -5,7 +5,6 @@
 #include "object/messages.h"
 #include "object/state.h"
 #include "platform/file_system.h"
-#include "platform/system.h"
 #include "runtime/numbers.h"
 #include "velor/constants.h"
 #include "velor/smes.h"

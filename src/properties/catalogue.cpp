@@ -13,7 +13,7 @@ namespace {
 
 // ---- Pure substances ----------------------------------------------------------------------------
 
-constexpr std::array<PureProperty, 10> kPureProperties{{
+constexpr auto kPureProperties = std::to_array<PureProperty>({
     {kETAG, "ETAG", "viskozita plynu", "Pa·s"},
     {kCPG, "CPG", "molární tepelná kapacita plynu", "J/(mol·K)"},
     {kALAG, "ALAG", "tepelná vodivost plynu", "W/(m·K)"},
@@ -24,7 +24,7 @@ constexpr std::array<PureProperty, 10> kPureProperties{{
     {kDHV, "DHV", "molární výparné teplo", "J/mol"},
     {kTENS, "TENS", "tenze par", "Pa"},
     {kSIGMA, "SIGMA", "povrchové napětí", "N/m"},
-}};
+});
 
 // ---- Mixtures -----------------------------------------------------------------------------------
 
@@ -75,7 +75,7 @@ constexpr const char* kState = "Redlich a Kwong (1949)";
 constexpr const char* kRaoult = "Raoult (1887), Newtonova metoda";
 
 // clang-format off
-constexpr std::array<MixtureProperty, 39> kMixtureProperties{{
+constexpr auto kMixtureProperties = std::to_array<MixtureProperty>({
     {"VSM", "Molární hmotnost", 0, "M", "kg/mol", kMean, {}, ofX<&Smes::VSM>},
     saturation({"TBV", "Teplota bodu varu (l)", 20, "Tb", "K", kRaoult, {kTENS}, ofP<&Smes::TBV>}, &Smes::lastBubblePoint),
     saturation({"TRB", "Teplota rosného bodu (g)", 21, "Td", "K", kRaoult, {kTENS}, ofP<&Smes::TRB>}, &Smes::lastDewPoint),
@@ -116,7 +116,7 @@ constexpr std::array<MixtureProperty, 39> kMixtureProperties{{
     gasAtPressure({"LNFUG", "Ln-fugacit.koef. (rg)", 33, "ln φ", "", kState, {}, ofTP<&Smes::LnFug>}),
     // Spelt so, as built.
     gasAtPressure({"JTKOEF", "Joule-Thompsnův koef. (rg)", 34, "μJT", "K/Pa", kState, {kCPG}, ofTP<&Smes::JTkoef>}),
-}};
+});
 // clang-format on
 
 template <class Row>

@@ -92,12 +92,13 @@ void Flash::gatherEquilibrium(double T) {
     const std::size_t n = found_.feed.size();
     found_.equilibrium.resize(n);
     if (adiabatic_) slopes_.resize(n);
+    const Temperature at(T), warmer(T + kFlashTemperatureStep);
     for (std::size_t i = 0; i < n; ++i) {
         const int component = static_cast<int>(i) + 1;
-        const double K = found_.equilibrium[i] = checked::divide(FFce(state_, T, component, kTENS), P_);
+        const double K = found_.equilibrium[i] = checked::divide(FFce(state_, at, component, kTENS), P_);
         if (!adiabatic_) continue;
-        const double warmer = checked::divide(FFce(state_, T + kFlashTemperatureStep, component, kTENS), P_);
-        slopes_[i] = (warmer - K) / kFlashTemperatureStep;
+        const double above = checked::divide(FFce(state_, warmer, component, kTENS), P_);
+        slopes_[i] = (above - K) / kFlashTemperatureStep;
     }
     messagesShown_ = state_.messages.PocHlasek != messagesBefore;
 }

@@ -1,7 +1,6 @@
 // Properties of the gas mixture at low pressure.
 #include "properties/gas.h"
 
-#include <string>
 #include <vector>
 
 #include "properties/composition.h"

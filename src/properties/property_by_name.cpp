@@ -5,6 +5,7 @@
 #include "object/messages.h"
 #include "object/state.h"
 #include "runtime/text.h"
+#include "velor/constants.h"
 #include "velor/properties.h"
 #include "velor/smes.h"
 
@@ -12,7 +13,6 @@ namespace velor {
 
 namespace {
 
-constexpr double kNothing = -9999.0;
 constexpr double kLeastPressure = 1e-06;
 
 bool isAboveNothing(const Variant& value) { return value.isEmpty() || value.toDouble() > kNothing; }

@@ -15,7 +15,6 @@ namespace velor {
 namespace {
 
 constexpr int kProperties = 10;
-constexpr double kLeastCriticalTemperature = 15.0;  // helium's and unknown ones do not clamp
 constexpr double kBelowCritical = 0.98;
 
 bool exists(const State& state, int i, int k) {
@@ -66,7 +65,7 @@ std::string substanceAndProperty(const State& state, int i, int k) {
 double workingTemperature(const State& state, const TLatka& record, const TKorelace& block, double T, int k) {
     double Tx = T;
     // Above the critical point the liquid's correlations are evaluated just below it, on purpose.
-    if (k >= kETAL && record.Tkr > kLeastCriticalTemperature && T > record.Tkr) Tx = kBelowCritical * record.Tkr;
+    if (isTakenBelowCritical(k, record.Tkr, T)) Tx = kBelowCritical * record.Tkr;
     if (state.settings.MezeTeplot > 0) {  // the caller's T is compared, not the one just set
         if (T < block.Tmin) Tx = block.Tmin;
         if (T > block.Tmax) Tx = block.Tmax;

@@ -12,6 +12,13 @@ namespace velor {
 // See Smes::FFce.
 double FFce(State& state, const Temperature& T, int i, int k);
 
+// Whether property k of a component is evaluated just below its critical temperature because T lies above it: those
+// from the liquid viscosity on. Helium and what has no known critical temperature are left out.
+inline bool isTakenBelowCritical(int k, double Tkr, double T) {
+    constexpr double kLeastCriticalTemperature = 15.0;
+    return k >= kETAL && Tkr > kLeastCriticalTemperature && T > Tkr;
+}
+
 std::string_view propertyName(int k);
 
 }  // namespace velor

@@ -22,7 +22,6 @@ constexpr Method kTBV{Saturation::Bubble, "TBV", "Výp.bodu varu diverguje!", &L
 constexpr Method kTRB{Saturation::Dew, "TRB", "Výp.ros.bodu diverguje!", &LastResults::dewPoint};
 
 double saturationTemperature(State& state, const Method& method, double P, const Composition& X) {
-    SaturationOutcome& outcome = state.last.*method.outcome = SaturationOutcome::Failed;  // until it has ended
     const int n = state.definition.PocSlozek;
     const ComponentValues x = takeFractions(state, X);
     ComponentValues Tc(n);
@@ -43,7 +42,7 @@ double saturationTemperature(State& state, const Method& method, double P, const
     };
     const SaturationPoint point = saturationPoint(method.kind, P, x.first(n), Tc.first(n), vapourPressure, rise,
                                                   [&] { return mixtureMessageIsDue(state.messages); });
-    outcome = point.diverged ? SaturationOutcome::Diverged : SaturationOutcome::Converged;
+    state.last.*method.outcome = point.diverged ? SaturationOutcome::Diverged : SaturationOutcome::Converged;
     if (!point.diverged) return point.temperature;
     showCounted(state.messages, method.divergence, Icon::Exclamation);
     // After a divergence the bubble point answers 0 and the dew point its last estimate; both are meant.
@@ -55,11 +54,13 @@ std::string title(const Method& method, const HostNumber& P) {
 }
 
 std::optional<double> trappedTemperature(State& state, const Method& method, double P, const Composition& X) {
+    state.last.*method.outcome = SaturationOutcome::Failed;  // until it has ended
     return trapped(
         state.messages, [&] { return title(method, P); }, [&] { return saturationTemperature(state, method, P, X); });
 }
 
 Variant publicTemperature(State& state, const Method& method, const Variant& P, const Variant& X) {
+    state.last.*method.outcome = SaturationOutcome::Failed;  // until it has ended
     return trappedMethod(
         state, [&] { return title(method, P); },
         [&] { return saturationTemperature(state, method, P.toDouble(), Composition(X)); });

@@ -3,8 +3,10 @@
 #include <limits>
 #include <vector>
 
+#include "properties/pure_value.h"
 #include "rules/equations.h"
 #include "rules/liquid.h"
+#include "velor/constants.h"
 
 namespace velor {
 
@@ -76,18 +78,11 @@ std::string_view standingNote(Standing standing) {
 
 namespace {
 
-// Properties from the liquid viscosity on are evaluated just below the critical temperature when T lies above it.
-bool isTakenBelowCritical(const Smes& smes, double T, int slot, const PureProperty& property) {
-    constexpr double kLeastCriticalTemperature = 15;
-    const double Tkr = smes.Tkri(slot).toDouble();
-    return property.number >= kETAL && Tkr > kLeastCriticalTemperature && T > Tkr;
-}
-
 Standing standingAt(const Smes& smes, double T, int slot, const PureProperty& property) {
     const bool isOutside =
         T < smes.VLRConst(slot, property.number, kTmin) || T > smes.VLRConst(slot, property.number, kTmax);
     if (isOutside && smes.MezeTeplot() > 0) return Standing::AtBound;
-    if (isTakenBelowCritical(smes, T, slot, property)) return Standing::BelowCritical;
+    if (isTakenBelowCritical(property.number, smes.Tkri(slot).toDouble(), T)) return Standing::BelowCritical;
     return isOutside ? Standing::Extrapolated : Standing::InRange;
 }
 
@@ -109,8 +104,6 @@ PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& prop
 }
 
 namespace {
-
-constexpr double kNothing = -9999;  // of Smes::Vlastnost
 
 // What a property is mixed of, component by component.
 class Gathering {
@@ -179,11 +172,11 @@ MixtureVerdict objectValue(Smes& smes, const MixtureProperty& property, double T
     try {
         const Variant value =
             property.isIntegral ? property.method(smes, T, P, X) : smes.Vlastnost(std::string(property.code), X, T, P);
-        if (property.outcome && (smes.*property.outcome)() == SaturationOutcome::Diverged)
-            return {{Standing::Diverged}};
         if (value.isEmpty()) return {{Standing::Failed}};
         const double number = value.toDouble();
         if (!property.isIntegral && number == kNothing) return {{Standing::Failed}};
+        if (property.outcome && (smes.*property.outcome)() == SaturationOutcome::Diverged)
+            return {{Standing::Diverged}};
         return {{Standing::InRange, number}};
     } catch (const RunTimeError& error) {
         return {{Standing::Failed}, 0, nullptr, error};

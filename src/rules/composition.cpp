@@ -27,13 +27,21 @@ void normalise(std::span<double> x) {
     for (double& fraction : x) fraction = checked::divide(fraction, sum);
 }
 
+void massParts(std::span<const double> x, std::span<const double> M, std::span<double> parts) {
+    for (std::size_t i = 0; i < x.size(); ++i) parts[i] = x[i] * M[i];
+}
+
+void moleParts(std::span<const double> w, std::span<const double> M, std::span<double> parts) {
+    for (std::size_t i = 0; i < w.size(); ++i) parts[i] = checked::divide(w[i], M[i]);
+}
+
 void massFractions(std::span<const double> x, std::span<const double> M, std::span<double> w) {
-    for (std::size_t i = 0; i < x.size(); ++i) w[i] = x[i] * M[i];
+    massParts(x, M, w);
     divideBySum(w);
 }
 
 void moleFractions(std::span<const double> w, std::span<const double> M, std::span<double> x) {
-    for (std::size_t i = 0; i < w.size(); ++i) x[i] = checked::divide(w[i], M[i]);
+    moleParts(w, M, x);
     divideBySum(x);
 }
 

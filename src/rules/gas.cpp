@@ -1,6 +1,5 @@
 #include "rules/gas.h"
 
-#include <array>
 #include <cstddef>
 #include <vector>
 

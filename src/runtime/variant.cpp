@@ -1,7 +1,5 @@
 #include "velor/variant.h"
 
-#include <algorithm>
-
 #include "runtime/checked.h"
 #include "runtime/numbers.h"
 

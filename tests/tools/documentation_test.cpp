@@ -10,6 +10,7 @@
 #include "rules/equations.h"
 #include "runtime/text.h"
 #include "support/temporary_folder.h"
+#include "velor/properties.h"
 
 namespace velor {
 namespace {
@@ -64,6 +65,20 @@ TEST(DataPage, listsTheEquations) {
         rows += " |" + (reference == 0 ? "" : coefficient(reference)) + " | " + std::string(equation.source) + " |\n";
     }
     EXPECT_NE(test::readFile(VELOR_DOCS "/data.md").find(rows + "\n"), std::string::npos) << rows;
+}
+
+TEST(PropertiesPage, listsTheCatalogue) {
+    std::string rows = "|---|---|---|---|---|---|\n";
+    for (const MixtureProperty& property : mixtureProperties()) {
+        rows += "| `" + std::string(property.code) + "` |";
+        const std::string_view T = property.needsTemperature ? "T" : "", P = property.needsPressure ? "P" : "";
+        const std::string needed = std::string(T).append(T.empty() || P.empty() ? "" : ", ").append(P);
+        for (const std::string_view cell :
+             {property.caption, property.symbol, property.unit, std::string_view(needed), property.rule})
+            rows += cell.empty() ? " |" : " " + std::string(cell) + " |";
+        rows += '\n';
+    }
+    EXPECT_NE(test::readFile(VELOR_DOCS "/properties.md").find(rows), std::string::npos) << rows;
 }
 
 }  // namespace

@@ -2,16 +2,17 @@
 
 #include <dirent.h>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
 #include <optional>
+#include <random>
 #include <utility>
 
 #include "runtime/checked.h"
@@ -91,7 +92,8 @@ void writeAll(int descriptor, std::string_view content) {
     }
 }
 
-// The file that the path means in the end; a link to nothing names the file that it would lead to.
+// The file that the path means in the end; a link to nothing names the file that it would lead to. A circle of links
+// stays a link.
 std::string behindLinks(const std::string& path) {
     constexpr int kMostLinks = 40;  // as many as the system follows
     std::filesystem::path target = path;
@@ -101,21 +103,32 @@ std::string behindLinks(const std::string& path) {
     return target.string();
 }
 
-// A new file beside the one that it will replace, gone with the object unless it has taken the other's place. Its name
-// is one of few, held by a lock that ends with the process: what a killed one left behind is used again.
+constexpr std::string_view kReplacementMark = ".velor-";  // in the name of a file that is to replace another
+
+// What programs left behind that were killed while they replaced the file; a younger one may still be written.
+void removeLeftovers(const std::string& path) {
+    constexpr auto kAge = std::chrono::minutes(10);
+    const std::filesystem::path folder = folderOf(path);
+    const std::string start = path.substr(path.rfind(kPathSeparator) + 1).append(kReplacementMark);
+    std::error_code error;
+    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+        const bool isOld = std::filesystem::file_time_type::clock::now() - entry.last_write_time(error) > kAge;
+        if (isOld && entry.path().filename().string().starts_with(start) && entry.is_regular_file(error))
+            std::filesystem::remove(entry.path(), error);
+    }
+}
+
+// A new file beside the one that it will replace, gone with the object unless it has taken the other's place.
 class Replacement {
   public:
-    explicit Replacement(const std::string& path) : path_(path), file_(open()) {}
+    explicit Replacement(const std::string& path) : path_(path), name_(freshName(path)), file_(create()) {}
     ~Replacement() {
         if (!name_.empty()) ::unlink(name_.c_str());
     }
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
 
-    void fill(std::string_view content) const {
-        if (::ftruncate(file_.get(), 0) != 0) checked::raise(RunTimeError::kPathFileAccess);
-        writeAll(file_.get(), content);
-    }
+    void fill(std::string_view content) const { writeAll(file_.get(), content); }
     // With the permissions of the file replaced, but none that would lend its owner's rights.
     void takePlace() {
         const auto replaced = statusOf(path_);
@@ -126,33 +139,14 @@ class Replacement {
     }
 
   private:
-    int open() {
-        constexpr int kNames = 100;  // as many may write at once
-        for (int number = 0; number < kNames; ++number) {
-            std::string name = path_ + ".velor-" + std::to_string(number);
-            const int descriptor = ::open(name.c_str(), O_WRONLY | O_CREAT | O_NOFOLLOW | O_CLOEXEC, 0666);
-            if (descriptor < 0) {
-                const int error = errno;
-                const bool isTaken = ::faccessat(AT_FDCWD, name.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0;
-                if (isTaken) continue;
-                raiseFileError(error, path_);
-            }
-            if (isOurs(descriptor, name)) {
-                name_ = std::move(name);
-                return descriptor;
-            }
-            ::close(descriptor);
-        }
-        checked::raise(RunTimeError::kPathFileAccess);
+    static std::string freshName(const std::string& path) {
+        std::random_device chance;
+        return path + std::string(kReplacementMark) + std::to_string(chance()) + std::to_string(chance());
     }
-
-    // Nobody else writes it, and it has not become the file itself in the meantime.
-    static bool isOurs(int descriptor, const std::string& name) {
-        struct stat opened {
-        }, named{};
-        return ::flock(descriptor, LOCK_EX | LOCK_NB) == 0 && ::fstat(descriptor, &opened) == 0 &&
-               S_ISREG(opened.st_mode) && opened.st_nlink == 1 && opened.st_uid == ::geteuid() &&
-               ::lstat(name.c_str(), &named) == 0 && named.st_ino == opened.st_ino && named.st_dev == opened.st_dev;
+    int create() const {
+        const int descriptor = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+        if (descriptor < 0) raiseFileError(errno, path_);
+        return descriptor;
     }
 
     std::string path_;
@@ -184,12 +178,6 @@ Folder openFolder(std::string path) {
 
 }  // namespace
 
-std::string withSeparator(std::string_view folder) {
-    std::string path(trimBlanks(folder));
-    if (path.empty() || path.back() != kPathSeparator) path += kPathSeparator;
-    return path;
-}
-
 ReadOnlyFile::ReadOnlyFile(const std::string& path) : handle_(openForReading(path)) {}
 
 ReadOnlyFile::~ReadOnlyFile() { ::close(static_cast<int>(handle_)); }
@@ -213,13 +201,6 @@ std::size_t ReadOnlyFile::readAt(std::int64_t offset, std::span<char> bytes) con
     return done;
 }
 
-std::string readText(const std::string& path, std::size_t mostBytes) {
-    const ReadOnlyFile file(path);
-    std::string text(std::min(mostBytes, static_cast<std::size_t>(file.size())), '\0');
-    text.resize(file.readAt(0, text));
-    return text;
-}
-
 std::string fileName(const std::string& path) {
     const auto status = statusOf(path);
     if (!status || !S_ISREG(status->st_mode)) return {};
@@ -235,7 +216,10 @@ void replaceFile(const std::string& path, std::string_view content) {
     checkPath(path);
     const std::string target = behindLinks(path);
     const auto status = statusOf(target);
-    if (status && S_ISREG(status->st_mode) && takesNoNewFile(folderOf(target))) return overwrite(target, content);
+    const bool isLink = std::filesystem::is_symlink(target);
+    if (isLink || (status && !S_ISREG(status->st_mode))) checked::raise(RunTimeError::kPathFileAccess);
+    if (status && takesNoNewFile(folderOf(target))) return overwrite(target, content);
+    removeLeftovers(target);
     Replacement replacement(target);
     replacement.fill(content);
     replacement.takePlace();

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <memory>
-#include <utility>
 
 #include "platform/windows/wide_text.h"
 #include "runtime/checked.h"
@@ -152,12 +151,6 @@ bool leadsElsewhere(const WIN32_FIND_DATAW& entry) {
 
 }  // namespace
 
-std::string withSeparator(std::string_view folder) {
-    std::string path(trimBlanks(folder));
-    if (path.empty() || path.back() != kPathSeparator) path += kPathSeparator;
-    return path;
-}
-
 ReadOnlyFile::ReadOnlyFile(const std::string& path) : handle_(reinterpret_cast<std::intptr_t>(openForReading(path))) {}
 
 ReadOnlyFile::~ReadOnlyFile() { CloseHandle(handleOf(handle_)); }
@@ -185,13 +178,6 @@ std::size_t ReadOnlyFile::readAt(std::int64_t offset, std::span<char> bytes) con
         done += count;
     }
     return done;
-}
-
-std::string readText(const std::string& path, std::size_t mostBytes) {
-    const ReadOnlyFile file(path);
-    std::string text(std::min(mostBytes, static_cast<std::size_t>(file.size())), '\0');
-    text.resize(file.readAt(0, text));
-    return text;
 }
 
 std::string fileName(const std::string& path) {
