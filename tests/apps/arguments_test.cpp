@@ -16,6 +16,7 @@ TEST(ArgumentsTest, helpIsCzech) {
              {"Usage", "OPTIONS", "Options", "REQUIRED", "Positionals", "SUBCOMMAND", " TEXT ..."})
             EXPECT_EQ(outcome.out.find(english), std::string::npos) << english;
     }
+    expectMentions(run({"--help"}).out, "\nNávratový kód:\n  0  ");
 }
 
 TEST(ArgumentsTest, versionIsTheLibrarys) {

@@ -61,6 +61,7 @@ TEST_F(SubstanceTest, correlationsAreShownAsTheRecordHoldsThem) {
     EXPECT_EQ(correlations[6]["vztah"], "Neznámý vztah!");
     EXPECT_TRUE(correlations[9]["A1"].is_null() && correlations[9]["Tmax"].is_null());
     expectMentions(latka({"10"}, "--csv").out, "\nTENS.Tmax,Tmax,240,K\n");
+    expectMentions(latka({"1"}, "").out, "\nKonstanty\n");
     expectMentions(latka({"1"}, "").out, "IAPWS");  // water's density has an equation of its own
     EXPECT_EQ(latka({"2"}, "").out.find("IAPWS"), std::string::npos);
 }

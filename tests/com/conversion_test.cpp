@@ -78,15 +78,20 @@ TEST(Conversion, refusesWhatHasNoCounterpart) {
 
 TEST(Conversion, keepsBoundsAndElementTypesOfArrays) {
     const Variant values = Variant::array(-2, {0.25, 4, 1.5});
+    SAFEARRAYBOUND column[] = {{3, -2}, {1, 1}}, row[] = {{1, 1}, {3, -2}};  // as worksheets pass a range
     for (const VARTYPE type : {VT_R4, VT_R8, VT_VARIANT, VT_CY, VT_BSTR, VT_DECIMAL}) {
-        com::SafeArray array(SafeArrayCreateVector(type, -2, 3));
-        SAFEARRAY* variable = array.get();
-        VARIANT argument = holding(static_cast<VARTYPE>(VT_BYREF | VT_ARRAY | type), &variable);
-        com::writeBack(values, argument);
-        EXPECT_EQ(variable, array.get()) << type;  // in place
-        const Variant back = com::toVariant(argument);
-        EXPECT_EQ(back.lowerBound(), -2);
-        for (int i = -2; i <= 0; ++i) EXPECT_EQ(back.at(i).toDouble(), values.at(i).toDouble()) << type;
+        const com::SafeArray arrays[] = {com::SafeArray(SafeArrayCreateVector(type, -2, 3)),
+                                         com::SafeArray(SafeArrayCreate(type, 2, column)),
+                                         com::SafeArray(SafeArrayCreate(type, 2, row))};
+        for (const com::SafeArray& array : arrays) {
+            SAFEARRAY* variable = array.get();
+            VARIANT argument = holding(static_cast<VARTYPE>(VT_BYREF | VT_ARRAY | type), &variable);
+            com::writeBack(values, argument);
+            EXPECT_EQ(variable, array.get()) << type;  // in place
+            const Variant back = com::toVariant(argument);
+            EXPECT_EQ(back.lowerBound(), -2);
+            for (int i = -2; i <= 0; ++i) EXPECT_EQ(back.at(i).toDouble(), values.at(i).toDouble()) << type;
+        }
     }
     // An array of another size is replaced by one of the same element type.
     SAFEARRAY* variable = SafeArrayCreateVector(VT_R8, 0, 1);
@@ -98,6 +103,25 @@ TEST(Conversion, keepsBoundsAndElementTypesOfArrays) {
     EXPECT_THROW(com::writeBack(List({1}), argument), RunTimeError);
     SafeArrayUnlock(variable);
     EXPECT_THROW(com::writeBack(List({"text", 1, 2}), argument), RunTimeError);
+}
+
+TEST(Conversion, writesIntoVariablesOfTheirOwnType) {
+    double number = 1;
+    short whole = 1;
+    VARIANT_BOOL flag = VARIANT_FALSE;
+    BSTR text = SysAllocString(L"before");
+    OwnVariant variant;
+    VARIANT arguments[] = {holding(VT_BYREF | VT_R8, &number), holding(VT_BYREF | VT_I2, &whole),
+                           holding(VT_BYREF | VT_BOOL, &flag), holding(VT_BYREF | VT_BSTR, &text),
+                           holding(VT_BYREF | VT_VARIANT, variant.get())};
+    for (VARIANT& argument : arguments) com::writeBack(2.5, argument);
+    EXPECT_EQ(number, 2.5);
+    EXPECT_EQ(whole, 2);
+    EXPECT_EQ(flag, VARIANT_TRUE);
+    EXPECT_TRUE(takeText(text).starts_with("2"));
+    EXPECT_EQ(com::toVariant(*variant), Variant(2.5));
+    EXPECT_THROW(com::writeBack(1e9, arguments[1]), RunTimeError);
+    EXPECT_EQ(whole, 2);
 }
 
 }  // namespace

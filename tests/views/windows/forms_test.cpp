@@ -156,8 +156,9 @@ TEST_F(NativeForms, componentIsChangedForTheTime) {
                  names.type(ZMENAZ_T_POLE + F_Zmenaz::kFirstConstant, "0,02");
                  names.click(ZMENAZ_C_DATA);
                  const Window data(kCorrection);
-                 data.press(OPRAV_L_VLAST, VK_DOWN);  // gas heat capacity
                  data.expectFocus(OPRAV_T_POLE);
+                 data.press(OPRAV_L_VLAST, VK_DOWN);  // gas heat capacity; the focus stays in the list
+                 data.expectFocus(OPRAV_L_VLAST);
                  data.replaceText(OPRAV_T_POLE, "1");
                  data.expectText(OPRAV_VZTAH, "y = A1 + A2.T   přímka");
                  data.press(OPRAV_T_POLE, VK_RETURN);
