@@ -15,6 +15,7 @@
 #include "output/output.h"
 #include "people/people.h"
 #include "substances/substances.h"
+#include "velor/text.h"
 
 namespace velor::app {
 
@@ -23,7 +24,7 @@ namespace {
 // A reader that went away has read enough: no text, only the exit code.
 void write(const std::string& text) {
     errno = 0;
-    std::cout << text << std::flush;
+    std::cout << printable(text) << std::flush;
     if (!std::cout && errno == EPIPE) throw Failure(ExitCode::NothingComputed, "");
     if (!std::cout) throw Failure(ExitCode::NothingComputed, "Výsledek se nepodařilo zapsat na výstup.");
 }
@@ -90,7 +91,7 @@ std::string run(int argc, const char* const* argv) {
 }
 
 int finish(ExitCode code, const std::string& text) {
-    if (!text.empty()) std::cerr << "velor: " << text << std::endl;
+    if (!text.empty()) std::cerr << "velor: " << printable(text) << std::endl;
     return static_cast<int>(code);
 }
 

@@ -17,6 +17,11 @@ std::string_view trimBlanks(std::string_view text);
 char32_t takeCodePoint(std::string_view& text);
 void appendCodePoint(std::string& text, char32_t codePoint);
 
+// Whether a terminal would take the character for a command.
+bool isControl(char32_t codePoint);
+// The text with each control character but line ends and tabulators as "?": safe to print on a terminal.
+std::string printable(std::string_view text);
+
 // Number of characters (code points).
 std::size_t characterCount(std::string_view text);
 

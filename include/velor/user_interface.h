@@ -4,6 +4,7 @@
 #include <deque>
 #include <functional>
 #include <iosfwd>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -66,10 +67,12 @@ class UserInterface {
 
 // Questions and answers on streams. Messages and prompts go to the message stream, answers are read line by line.
 // A Yes/No question takes a, ano, y, yes or n, ne, no in either case; at the end of input the answer is No, and
-// askText raises error 62. An empty line answers a text request with its default.
+// askText raises error 62. An empty line answers a text request with its default. Control characters of what is shown
+// are written as "?", so that no name can command the terminal.
 class StreamUserInterface : public UserInterface {
   public:
-    StreamUserInterface(std::istream& answers, std::ostream& messages) : answers_(answers), messages_(messages) {}
+    StreamUserInterface(std::istream& answers, std::ostream& messages);
+    ~StreamUserInterface() override;
 
     Answer showMessage(const Message& message) override;
     std::string askText(const InputRequest& request) override;
@@ -84,7 +87,8 @@ class StreamUserInterface : public UserInterface {
     bool readLine(std::string& line);  // false at the end of input
 
     std::istream& answers_;
-    std::ostream& messages_;
+    std::unique_ptr<std::ostream> safe_;
+    std::ostream& messages_;  // the safe one
 };
 
 // Shows nothing and keeps everything: for tests and for hosts that report in their own way. Answers are taken from

@@ -18,13 +18,12 @@ namespace {
 template <std::size_t Width>
 std::string fieldText(const std::array<char, Width>& field) {
     const std::string text = decodeWindows1250(beforeNull({field.data(), field.size()}));
-    std::string printable;
+    std::string shown;
     for (std::string_view rest = text; !rest.empty();) {
         const char32_t c = takeCodePoint(rest);
-        const bool isControl = c < 0x20 || (c >= 0x7F && c < 0xA0);
-        appendCodePoint(printable, isControl ? U'?' : c);
+        appendCodePoint(shown, isControl(c) ? U'?' : c);
     }
-    return std::string(trimBlanks(printable));
+    return std::string(trimBlanks(shown));
 }
 
 // As the library sees it when it loads a component.

@@ -160,8 +160,7 @@ Parsed<std::string> readBytes(std::string_view text, std::size_t width) {
 bool isControlByte(char byte) {
     const std::string text = decodeWindows1250({&byte, 1});
     std::string_view rest = text;
-    const char32_t codePoint = takeCodePoint(rest);
-    return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
+    return isControl(takeCodePoint(rest));
 }
 
 std::string bytesText(std::string_view bytes) {
@@ -187,8 +186,7 @@ std::string quoted(std::string_view cell) {
             break;
         }
         const char32_t codePoint = takeCodePoint(cell);
-        const bool control = codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0);
-        appendCodePoint(text, control ? U'?' : codePoint);
+        appendCodePoint(text, isControl(codePoint) ? U'?' : codePoint);
     }
     return text + "“";
 }

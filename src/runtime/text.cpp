@@ -70,6 +70,20 @@ void appendCodePoint(std::string& text, char32_t codePoint) {
     }
 }
 
+bool isControl(char32_t codePoint) { return codePoint < 0x20 || (codePoint >= 0x7F && codePoint < 0xA0); }
+
+std::string printable(std::string_view text) {
+    std::string safe;
+    safe.reserve(text.size());
+    while (!text.empty()) {
+        const std::string_view before = text;
+        const char32_t codePoint = takeCodePoint(text);
+        const bool isKept = codePoint == U'\n' || codePoint == U'\t' || !isControl(codePoint);
+        safe += isKept ? before.substr(0, before.size() - text.size()) : std::string_view("?");
+    }
+    return safe;
+}
+
 std::size_t characterCount(std::string_view text) {
     std::size_t count = 0;
     for (; !text.empty(); ++count) takeCodePoint(text);

@@ -25,5 +25,15 @@ TEST(StreamUserInterface, asksYesOrNoUntilItIsAnswered) {
     }
 }
 
+TEST(StreamUserInterface, leavesTheTerminalAlone) {
+    std::istringstream answers;
+    std::ostringstream shown;
+    StreamUserInterface(answers, shown)
+        .showMessage({"\x1B[2JVo\xC2\x9B"
+                      "da\tč",
+                      Icon::None, "VE\aLOR"});
+    EXPECT_EQ(shown.str(), "VE?LOR: ?[2JVo?da\tč\n");
+}
+
 }  // namespace
 }  // namespace velor

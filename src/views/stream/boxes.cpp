@@ -5,6 +5,7 @@
 #include "runtime/checked.h"
 #include "runtime/text.h"
 #include "velor/user_interface.h"
+#include "views/stream/safe_stream.h"
 
 namespace velor {
 
@@ -38,6 +39,11 @@ std::string terminalLines(const std::string& text) {
 }
 
 }  // namespace
+
+StreamUserInterface::StreamUserInterface(std::istream& answers, std::ostream& messages)
+    : answers_(answers), safe_(std::make_unique<SafeStream>(messages)), messages_(*safe_) {}
+
+StreamUserInterface::~StreamUserInterface() = default;
 
 bool StreamUserInterface::readLine(std::string& line) {
     if (!std::getline(answers_, line)) return false;
