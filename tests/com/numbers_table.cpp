@@ -1,5 +1,6 @@
 // Writes calls and their results, one a line, for a client of another build to repeat: "mixture Redlich n substances
 // fractions", or a member, its arguments ("X" is the composition) and the number it gives.
+#include <velor/properties.h>
 #include <velor/smes.h>
 
 #include <cstdio>
@@ -17,10 +18,6 @@ struct Mixture {
 
 const Mixture kMixtures[] = {{{1}, {1.0}}, {{235, 1}, {0.4, 0.6}}, {{57, 235, 1, 234}, {0.1, 0.2, 0.3, 0.4}}};
 constexpr double kTemperatures[] = {290.15, 333.3, 410.0}, kPressures[] = {5e4, 1.2e6};
-constexpr const char* kAtTemperature[] = {"ROLW",  "ETAL", "ETAG", "ALAL", "ALAG", "CPL",  "CPLW",    "CPG", "CPGW",
-                                          "SIGMA", "DHV",  "DHVW", "SL",   "SLW",  "TENS", "OBJROZL", "PRL"};
-constexpr const char* kAtPressure[] = {"ROGW", "RROGW", "RCPG", "RCPGW", "RCVG", "RCVGW", "RALAG", "RETAG", "RHG",
-                                       "RHGW", "RSG",   "RSGW", "RUG",   "RUGW", "LNFUG", "KAPA",  "JTKOEF"};
 
 void print(const std::string& call, double value) {
     if (value != -9999) std::printf("%s %.17g\n", call.c_str(), value);  // which says that there is none
@@ -41,7 +38,9 @@ class Case {
         smes_.Redlich(redlich);
         smes_.Inivlr();
     }
-    double byName(const char* name, double T, double P) { return smes_.Vlastnost(name, X_, T, P).toDouble(); }
+    double byName(std::string_view name, double T, double P) {
+        return smes_.Vlastnost(std::string(name), X_, T, P).toDouble();
+    }
     Smes& smes() { return smes_; }
     const Variant& X() const { return X_; }
 
@@ -58,11 +57,13 @@ void writeMixture(const std::string& database, const Mixture& mixture, int redli
     std::printf("\n");
     const auto fresh = [&] { return Case(database, mixture, redlich); };
     for (const double T : kTemperatures) {
-        for (const char* name : kAtTemperature)
-            print(std::string(name) + " " + number(T) + " X", fresh().byName(name, T, 1e5));
-        for (const double P : kPressures)
-            for (const char* name : kAtPressure)
-                print(std::string(name) + " " + number(T) + " " + number(P) + " X", fresh().byName(name, T, P));
+        for (const MixtureProperty& property : mixtureProperties()) {
+            if (!property.needsTemperature || property.isIntegral) continue;
+            const std::string call = std::string(property.code) + " " + number(T);
+            if (!property.needsPressure) print(call + " X", fresh().byName(property.code, T, 1e5));
+            for (const double P : kPressures)
+                if (property.needsPressure) print(call + " " + number(P) + " X", fresh().byName(property.code, T, P));
+        }
         Case liquid = fresh();  // by name a cold liquid's enthalpy may count as not found
         print("HL " + number(T) + " X", liquid.smes().HL(T, liquid.X()).toDouble());
         print("HLW " + number(T) + " X", liquid.smes().HLW(T, liquid.X()).toDouble());

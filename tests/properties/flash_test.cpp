@@ -57,24 +57,6 @@ struct Ideal {
     }
 };
 
-// K-values 2 and 1/2 of equal parts: z (1 - K)/(1 - V (1 - K)) sums to 0 at V = 1/2, where x = 1/3, 2/3.
-TEST(FlashRule, solvesTheBalanceOfConstantValues) {
-    const std::vector<double> z{0.5, 0.5}, K{2.0, 0.5}, slopes{0.0, 0.0};
-    const auto equilibrium = [&](double) { return Equilibrium{K, slopes}; };
-    const FlashSolution isothermal = isothermalFlash(350.0, z, equilibrium);
-    // Enthalpies 10 T and 10 T + 3000 of any composition: half of the feed evaporated at 350 K holds 5000 J/mol.
-    const FlashSolution adiabatic = adiabaticFlash(
-        5000.0, 340.0, z, equilibrium, [](double T, const auto&) { return 10 * T; },
-        [](double T, const auto&) { return 10 * T + 3000; });
-    for (const FlashSolution& solution : {isothermal, adiabatic}) {
-        EXPECT_TRUE(solution.converged);
-        EXPECT_NEAR(solution.V, 0.5, 1e-5);
-        EXPECT_NEAR(solution.T, 350.0, 0.1);
-        EXPECT_NEAR(solution.x[0], 1 / 3.0, 1e-4);
-        EXPECT_NEAR(solution.y[0], 2 / 3.0, 1e-4);
-    }
-}
-
 // A K-value that leaps between passes has no solution; the last pass tells so.
 TEST(FlashRule, endsAfterThirtyPasses) {
     const std::vector<double> z{0.5, 0.5}, K{2.0, 0.5}, other{3.0, 0.6};

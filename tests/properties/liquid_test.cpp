@@ -97,10 +97,6 @@ TEST_F(LiquidTest, densitiesAreTakenAtTheMixturesReducedTemperature) {
     for (const auto& [T, heat] : heats) EXPECT_DOUBLE_EQ(smes.DHV(T, half).toDouble(), heat) << T;
 }
 
-// ---- Built on purpose ----------------------------------------------------------------------------------------------
-
-// ---- Messages and failures -----------------------------------------------------------------------------------------
-
 TEST_F(LiquidTest, anInvalidEquationIsMixedOnAndRaisedOnlyInModeMinusOne) {
     smes.VLRConst(2, kETAL, 7, 20);
     EXPECT_NEAR(smes.ETAL(350, half).toDouble(), std::sqrt(1e-7 * (1e-8 * 0.2 / 500)) * 600 / 0.15, 1e-12);
