@@ -109,12 +109,13 @@ INT_PTR CALLBACK procedure(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 
 std::string showInputBox(HWND owner, const InputRequest& request) {
     const Template layout;
-    Dialog dialog{toWide(request.title), toWide(request.prompt), toWide(request.defaultAnswer), {}};
-    const INT_PTR pressed =
-        DialogBoxIndirectParamW(libraryModule(), layout.get(), owner, procedure, reinterpret_cast<LPARAM>(&dialog));
+    Dialog dialog{
+        platform::toWide(request.title), platform::toWide(request.prompt), platform::toWide(request.defaultAnswer), {}};
+    const INT_PTR pressed = DialogBoxIndirectParamW(platform::libraryModule(), layout.get(), owner, procedure,
+                                                    reinterpret_cast<LPARAM>(&dialog));
     if (pressed != IDOK && pressed != IDCANCEL) checked::raise(RunTimeError::kInputPastEnd);
     if (dialog.failure) std::rethrow_exception(dialog.failure);
-    return pressed == IDOK ? fromWide(dialog.text) : std::string();
+    return pressed == IDOK ? platform::fromWide(dialog.text) : std::string();
 }
 
 }  // namespace velor::forms

@@ -47,8 +47,9 @@ Answer WindowsUserInterface::showMessage(const Message& message) {
     const UINT buttons = message.buttons == Buttons::YesNo ? MB_YESNO : MB_OK;
     // A host without an active window may have others, which the box disables, and may stand behind other programs.
     const UINT modality = window ? MB_APPLMODAL : MB_TASKMODAL | MB_SETFOREGROUND;
-    const int pressed = MessageBoxW(window, toWide(message.text).c_str(), toWide(message.title).c_str(),
-                                    iconStyle(message.icon) | buttons | modality);
+    const int pressed =
+        MessageBoxW(window, platform::toWide(message.text).c_str(), platform::toWide(message.title).c_str(),
+                    iconStyle(message.icon) | buttons | modality);
     if (message.buttons == Buttons::Ok) return Answer::Ok;
     return pressed == IDYES ? Answer::Yes : Answer::No;
 }

@@ -7,6 +7,8 @@
 
 namespace velor::forms {
 
+class FormWindow;
+
 class WindowsUserInterface : public UserInterface {
   public:
     Answer showMessage(const Message& message) override;
@@ -20,10 +22,10 @@ class WindowsUserInterface : public UserInterface {
     void showForm(frmOprav& form) override;
 
   private:
-    void show(forms::FormWindow& form);
+    void show(FormWindow& form);
     HWND owner() const;
 
-    const forms::FormWindow* topmost_ = nullptr;  // of the forms that are shown
+    const FormWindow* topmost_ = nullptr;  // of the forms that are shown
 };
 
 }  // namespace velor::forms
