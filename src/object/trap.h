@@ -44,19 +44,27 @@ inline Variant asVariant(const std::optional<double>& value) { return value ? Va
 // What becomes of an error that was raised to the host on purpose below the trap.
 enum class Raised { Retold, Passed };
 
-// Runs a body that yields one number, or none. A run-time error goes to the shared reporter under the title, and there
-// is no number; an empty result counts as 0 in the caller's arithmetic.
-template <Raised raised = Raised::Retold, class Title, class Body>
-std::optional<double> trapped(const Messages& messages, const Title& title, const Body& body) {
+// The trap: runs the body; a run-time error goes to the shared reporter under the title, and the result is another one.
+template <Raised raised, class Result, class Title, class Body>
+Result trappedOr(Result otherwise, const Messages& messages, const Title& title, const Body& body) {
     try {
-        const std::optional<double> value = body();
-        if (value) checked::finite(*value);
-        return value;
+        return body();
     } catch (const RunTimeError& error) {
         if (raised == Raised::Passed && error.number() == RunTimeError::kRaisedToHost) throw;
         ChybaVypoctu(messages, error, title());
-        return std::nullopt;
+        return otherwise;
     }
+}
+
+// Around a body that yields one number, or none. After an error there is none; an empty result counts as 0 in the
+// caller's arithmetic.
+template <class Title, class Body>
+std::optional<double> trapped(const Messages& messages, const Title& title, const Body& body) {
+    return trappedOr<Raised::Retold>(std::optional<double>(), messages, title, [&]() -> std::optional<double> {
+        const std::optional<double> value = body();
+        if (value) checked::finite(*value);
+        return value;
+    });
 }
 
 // The public method around a body: the records are loaded first, inside the trap. Empty after an error.

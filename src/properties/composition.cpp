@@ -52,14 +52,9 @@ Variant convert(State& state, const Variant& from, Variant& to, Conversion conve
 }  // namespace
 
 double molarMass(const State& state, const Composition& X) {
-    const int n = state.definition.PocSlozek;
-    std::array<double, ComponentSlots::kCount> x, M;  // not cleared: this runs in most methods, and fills what it uses
-    for (int i = 1; i <= n; ++i) {
-        x[ComponentSlots::index(i)] = X.at(i);
-        M[ComponentSlots::index(i)] = state.definition.slots.Latka(i).Mv;
-    }
-    const auto count = static_cast<std::size_t>(std::max(n, 0));
-    return meanMolarMass(std::span(x).first(count), std::span(M).first(count));
+    double sum = 0.0;  // added up while it is gathered: most methods need it
+    for (int i = 1; i <= state.definition.PocSlozek; ++i) sum += X.at(i) * state.definition.slots.Latka(i).Mv;
+    return sum;
 }
 
 std::optional<double> VSM(State& state, const Composition& X) {

@@ -1,6 +1,5 @@
 #include "properties/pure_value.h"
 
-#include <optional>
 #include <string>
 
 #include "object/trap.h"
@@ -93,17 +92,16 @@ double evaluate(State& state, const Temperature& T, int i, int k) {
 
 // What is raised to the host on purpose tells the substance and passes the trap as it is.
 template <class Body>
-double valueOf(State& state, const Body& body) {
-    return trapped<Raised::Passed>(
-               state.messages, [] { return std::string("FFce"); }, body)
-        .value_or(kNoValue);
+double valueOf(const State& state, const Body& body) {
+    return trappedOr<Raised::Passed>(
+        kNoValue, state.messages, [] { return std::string("FFce"); }, body);
 }
 
 }  // namespace
 
 double FFce(State& state, const Temperature& T, int i, int k) {
     if (!exists(state, i, k) && rejects(state, i, k)) return 0.0;
-    return valueOf(state, [&]() -> std::optional<double> { return evaluate(state, T, i, k); });
+    return valueOf(state, [&] { return evaluate(state, T, i, k); });
 }
 
 std::string_view propertyName(int k) {
@@ -114,7 +112,7 @@ std::string_view propertyName(int k) {
 Variant Smes::FFce(const Variant& T, int i, int k) {
     requireInt16({i, k});
     if (!exists(*state_, i, k) && rejects(*state_, i, k)) return 0.0;
-    return valueOf(*state_, [&]() -> std::optional<double> { return evaluate(*state_, T.toDouble(), i, k); });
+    return valueOf(*state_, [&] { return evaluate(*state_, T.toDouble(), i, k); });
 }
 
 std::string Smes::ChybRozv(int k) { return std::string(propertyName(checkedInt16(k))); }

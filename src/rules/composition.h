@@ -21,9 +21,6 @@ inline double moleMean(std::span<const double> x, std::span<const double> y) {
     return sum;
 }
 
-// Molar mass of a mixture: sum(x M). [kg/mol]
-inline double meanMolarMass(std::span<const double> x, std::span<const double> M) { return moleMean(x, M); }
-
 // Parts by mass of mole fractions, x M, and by amount of mass fractions, w / M. Error 11: a molar mass of 0.
 void massParts(std::span<const double> x, std::span<const double> M, std::span<double> parts);
 void moleParts(std::span<const double> w, std::span<const double> M, std::span<double> parts);

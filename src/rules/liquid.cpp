@@ -16,8 +16,6 @@ double volumeMeanTemperature(std::span<const double> x, std::span<const double> 
     return checked::divide(weighted, volume);
 }
 
-double molarVolume(double M, double rho) { return checked::divide(M, rho); }
-
 double liquidDensity(std::span<const double> x, std::span<const double> volumes, double M) {
     return checked::divide(M, moleMean(x, volumes));
 }

@@ -4,6 +4,7 @@
 #include <span>
 
 #include "rules/equations.h"
+#include "runtime/checked.h"
 
 namespace velor {
 
@@ -12,7 +13,7 @@ namespace velor {
 double volumeMeanTemperature(std::span<const double> x, std::span<const double> Vc, std::span<const double> Tc);
 
 // Molar volume of a pure liquid of molar mass M and density rho: M / rho. [m3/mol] Error 11: no density.
-double molarVolume(double M, double rho);
+inline double molarVolume(double M, double rho) { return checked::divide(M, rho); }
 
 // Density by ideal mixing of molar volumes (Amagat, 1880): M / sum(x V), M the mixture's molar mass. [kg/m3] Error 11:
 // no component has a volume.

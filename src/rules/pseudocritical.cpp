@@ -11,7 +11,7 @@ namespace velor {
 Pseudocritical pseudocriticalValues(std::span<const double> x, std::span<const double> M, std::span<const double> Tc,
                                     std::span<const double> Pc, std::span<const double> Vc) {
     Pseudocritical mixture;
-    mixture.molarMass = meanMolarMass(x, M);
+    mixture.molarMass = moleMean(x, M);
     mixture.volume = moleMean(x, Vc);
     mixture.temperature = moleMean(x, Tc);
     for (std::size_t i = 0; i < x.size(); ++i)
