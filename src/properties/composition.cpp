@@ -1,8 +1,6 @@
 // Checking, normalising and converting fractions.
 #include "properties/composition.h"
 
-#include <algorithm>
-#include <array>
 #include <cmath>
 #include <span>
 #include <string>
