@@ -84,10 +84,11 @@ double evaluate(State& state, const Temperature& T, int i, int k) {
         reportMissing(state, i, k);
     if (!isEquationType(block.Typ)) [[unlikely]]
         return reportInvalidType(state, T, i, k, block.Typ);
+    const Equation& equation = kEquations[static_cast<std::size_t>(block.Typ - 1)];
     const double Tx = workingTemperature(state, record, block, T, k);
     if (k == kROLW && state.definition.slots.CisloLatky(i) == kWater) return waterDensity(Tx);
     // A T that was not moved brings the logarithm that the components share.
-    return Tx == T ? evaluateEquation(block.Typ, block.A, T) : evaluateEquation(block.Typ, block.A, Tx);
+    return Tx == T ? equation.value(block.A, T) : equation.value(block.A, Tx);
 }
 
 // What is raised to the host on purpose tells the substance and passes the trap as it is.
