@@ -9,10 +9,11 @@
 namespace velor::app {
 
 struct TypedWord {
-    std::string text;                  // without quotes and escapes
-    std::vector<std::size_t> origins;  // where each byte of the text begins in the line, with its backslash, and the end
-    std::vector<char> quotes;          // the quote around each of these places, 0 for none
-    bool isRedirection = false;        // "<", ">", ">>"
+    std::string text;  // without quotes and escapes
+    std::vector<std::size_t>
+        origins;                 // where each byte of the text begins in the line, with its backslash, and the end
+    std::vector<char> quotes;    // the quote around each of these places, 0 for none
+    bool isRedirection = false;  // "<", ">", ">>"
 };
 
 class TypedLine {
