@@ -114,6 +114,7 @@ TEST_F(Views, fitEveryWindow) {
     // Columns stay aligned under their headings, Czech letters or not.
     terminal.type("kyselina m");
     terminal.waitFor("4 z 480");
+    terminal.waitFor("Formic");  // the list is drawn after the count
     const auto columnOf = [&](const std::string& line, const std::string& text) {
         return characterCount(line.substr(0, line.find(text)));
     };
