@@ -7,8 +7,8 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -107,14 +107,13 @@ constexpr std::string_view kReplacementMark = ".velor-";  // in the name of a fi
 
 // What programs left behind that were killed while they replaced the file; a younger one may still be written.
 void removeLeftovers(const std::string& path) {
-    constexpr auto kAge = std::chrono::minutes(10);
-    const std::filesystem::path folder = folderOf(path);
-    const std::string start = path.substr(path.rfind(kPathSeparator) + 1).append(kReplacementMark);
-    std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
-        const bool isOld = std::filesystem::file_time_type::clock::now() - entry.last_write_time(error) > kAge;
-        if (isOld && entry.path().filename().string().starts_with(start) && entry.is_regular_file(error))
-            std::filesystem::remove(entry.path(), error);
+    constexpr std::time_t kAge = 600;  // s
+    const std::size_t nameAt = path.rfind(kPathSeparator) + 1;
+    const std::string folder = path.substr(0, nameAt), start = path.substr(nameAt).append(kReplacementMark);
+    for (const FolderEntry& entry : listFolder(folderOf(path))) {
+        if (entry.isFolder || !entry.name.starts_with(start)) continue;
+        const auto status = statusOf(folder + entry.name);
+        if (status && std::time(nullptr) - status->st_mtime > kAge) ::unlink((folder + entry.name).c_str());
     }
 }
 
@@ -216,7 +215,8 @@ void replaceFile(const std::string& path, std::string_view content) {
     checkPath(path);
     const std::string target = behindLinks(path);
     const auto status = statusOf(target);
-    const bool isLink = std::filesystem::is_symlink(target);
+    std::error_code unknown;  // what cannot be looked at cannot be written either, and that is told
+    const bool isLink = std::filesystem::is_symlink(target, unknown);
     if (isLink || (status && !S_ISREG(status->st_mode))) checked::raise(RunTimeError::kPathFileAccess);
     if (status && takesNoNewFile(folderOf(target))) return overwrite(target, content);
     removeLeftovers(target);
