@@ -18,12 +18,14 @@ enum class Standing {
     Extrapolated,     // the temperature is outside the validity range
     AtBound,          // clamped into it, see Smes::MezeZap
     BelowCritical,    // above the critical temperature, evaluated at 0.98 of it
+    LeftOut,          // a component above its critical temperature has no part in the heat of vaporisation
+    Metastable,       // of a gas above its dew pressure: part of it would condense
     NotGiven,         // the database has no such correlation of the substance
     BeyondReference,  // the equation has no value beyond its reference temperature
     Diverged,         // the iteration was given up
     Failed,
 };
-inline constexpr std::size_t kStandings = 8;
+inline constexpr std::size_t kStandings = 10;
 
 // One word for machines.
 std::string_view standingWord(Standing standing);
@@ -36,7 +38,7 @@ struct PropertyValue {
     Standing standing;
     double value = 0;  // in the unit of the catalogue
 
-    bool isComputed() const { return standing <= Standing::BelowCritical; }
+    bool isComputed() const { return standing <= Standing::Metastable; }
 };
 
 // ---- Pure substances ----------------------------------------------------------------------------
@@ -59,13 +61,27 @@ struct MixtureVerdict {
 // The property of the loaded mixture of mole fractions X (from 1) at T kelvin and P pascals; what the property does not
 // need is not read. Where a pure value that it is mixed of is missing there is no value of the mixture either: the
 // object alone would go on with 1E-8. A bubble or dew point is held below the critical temperature of every component,
-// even of one of fraction 0: smes should hold only those that are there. The object gives its iterations up only while
-// its messages are on and their budget is not spent, so that each point wants a fresh one. What it shows goes to its
-// user interface. Raises error 6 for a damaged record; 9 and 13 for fractions that are not there or no numbers.
+// even of one of fraction 0: smes should hold only those that are there. One that does not meet its own equation has
+// diverged, whatever the object answers. The object gives its iterations up only while its messages are on and their
+// budget is not spent, so that each point wants a fresh one. What it shows goes to its user interface. Raises error 6
+// for a damaged record; 9 and 13 for fractions that are not there or no numbers.
 MixtureVerdict mixtureValue(Smes& smes, const MixtureProperty& property, double T, double P, const Variant& X);
 
 // How the pure values that the property is mixed of at T kelvin stand to their correlations: the worst of those of the
 // components that are there, without a value.
 MixtureVerdict worstPureValue(Smes& smes, const MixtureProperty& property, double T, const Variant& X);
+
+// ---- Phases of the ideal mixture ----------------------------------------------------------------
+// By the law of Raoult (1887) at T kelvin and P pascals, as bubble and dew points are computed, for mole fractions X
+// (from 1).
+
+enum class StablePhase { Liquid, Gas, Both, Unknown };  // the last where a vapour pressure is missing
+
+// What is above its critical temperature counts as a gas that does not condense.
+StablePhase stablePhase(Smes& smes, double T, double P, const Variant& X);
+// Whether part of the gas would condense, see Standing::Metastable.
+bool isMetastableGas(Smes& smes, double T, double P, const Variant& X);
+// Whether T is the mixture's bubble or dew point, whichever the property is, by its equation within 1 %.
+bool isSaturationPoint(Smes& smes, const MixtureProperty& property, double T, double P, const Variant& X);
 
 }  // namespace velor

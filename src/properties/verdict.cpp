@@ -6,75 +6,8 @@
 #include "properties/pure_value.h"
 #include "rules/equations.h"
 #include "rules/liquid.h"
-#include "velor/constants.h"
 
 namespace velor {
-
-std::string_view standingWord(Standing standing) {
-    switch (standing) {
-        case Standing::InRange:
-            return "v rozsahu";
-        case Standing::Extrapolated:
-            return "extrapolováno";
-        case Standing::AtBound:
-            return "na mezi";
-        case Standing::BelowCritical:
-            return "0.98 Tkr";
-        case Standing::NotGiven:
-            return "nedáno";
-        case Standing::BeyondReference:
-            return "bez hodnoty";
-        case Standing::Diverged:
-            return "nekonverguje";
-        case Standing::Failed:
-            break;
-    }
-    return "chyba";
-}
-
-std::string_view standingMark(Standing standing) {
-    switch (standing) {
-        case Standing::Extrapolated:
-            return "*";
-        case Standing::AtBound:
-            return "=";
-        case Standing::BelowCritical:
-            return "k";
-        case Standing::NotGiven:
-            return "n";
-        case Standing::BeyondReference:
-            return "r";
-        case Standing::Diverged:
-            return "d";
-        case Standing::Failed:
-            return "!";
-        case Standing::InRange:
-            break;
-    }
-    return "";
-}
-
-std::string_view standingNote(Standing standing) {
-    switch (standing) {
-        case Standing::Extrapolated:
-            return "Teplota je mimo rozsah platnosti korelace, hodnota je extrapolovaná.";
-        case Standing::AtBound:
-            return "Teplota je mimo rozsah platnosti korelace, hodnota platí pro jeho nejbližší mez.";
-        case Standing::BelowCritical:
-            return "Teplota je nad kritickou, hodnota je vypočtena při 0.98 Tkr.";
-        case Standing::NotGiven:
-            return "Vlastnost není pro látku v bázi dána.";
-        case Standing::BeyondReference:
-            return "Rovnice nemá při této teplotě hodnotu (nad vztažnou teplotou).";
-        case Standing::Diverged:
-            return "Iterace nekonverguje.";
-        case Standing::Failed:
-            return "Při výpočtu nastala chyba, rovnice nemá při této teplotě hodnotu.";
-        case Standing::InRange:
-            break;
-    }
-    return "";
-}
 
 namespace {
 
@@ -97,6 +30,7 @@ PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& prop
     try {
         const double value = smes.FFce(T, slot, property.number).toDouble();
         if (value == kNoValue) return {Standing::BeyondReference};
+        if (value < 0) return {Standing::Failed};  // an equation far outside its range: none of the ten is negative
         return {standingAt(smes, T, slot, property), value};
     } catch (const RunTimeError&) {
         return {Standing::Failed};
@@ -134,15 +68,19 @@ class Gathering {
 
     void take(int slot, double T) {
         for (const PureProperty& pure : pureProperties()) {
+            if (!property_.correlations.contains(pure.number)) continue;
             const bool isLeftOut = pure.number == kDHV && T >= smes_.Tkri(slot).toDouble();
-            if (property_.correlations.contains(pure.number) && !isLeftOut) take(pure, slot, T);
+            take(pure, slot, isLeftOut ? Standing::LeftOut : pureValue(smes_, T, slot, pure).standing);
         }
-        if (property_.correlations.contains(kReducedROLW))
-            take(pureProperties()[kROLW - 1], slot, temperatureOfDensity(slot, T));
+        if (property_.correlations.contains(kReducedROLW)) takeDensity(slot, temperatureOfDensity(slot, T));
     }
 
-    void take(const PureProperty& pure, int slot, double T) {
-        const Standing standing = pureValue(smes_, T, slot, pure).standing;
+    void takeDensity(int slot, double T) {
+        const PureProperty& density = pureProperties()[kROLW - 1];
+        take(density, slot, pureValue(smes_, T, slot, density).standing);
+    }
+
+    void take(const PureProperty& pure, int slot, Standing standing) {
         if (standing > worst_.result.standing) worst_ = {{standing}, slot, &pure};
     }
 
@@ -170,14 +108,11 @@ class Gathering {
 // The object's value, without a look at where it comes from.
 MixtureVerdict objectValue(Smes& smes, const MixtureProperty& property, double T, double P, const Variant& X) {
     try {
-        const Variant value =
-            property.isIntegral ? property.method(smes, T, P, X) : smes.Vlastnost(std::string(property.code), X, T, P);
+        const Variant value = property.method(smes, T, P, X);
         if (value.isEmpty()) return {{Standing::Failed}};
-        const double number = value.toDouble();
-        if (!property.isIntegral && number == kNothing) return {{Standing::Failed}};
         if (property.outcome && (smes.*property.outcome)() == SaturationOutcome::Diverged)
             return {{Standing::Diverged}};
-        return {{Standing::InRange, number}};
+        return {{Standing::InRange, value.toDouble()}};
     } catch (const RunTimeError& error) {
         return {{Standing::Failed}, 0, nullptr, error};
     }
@@ -195,6 +130,8 @@ MixtureVerdict saturationValue(Smes& smes, const MixtureProperty& property, doub
     if (!found.result.isComputed()) return found;
     const MixtureVerdict worst = gathering.worstAt(found.result.value);
     if (!worst.result.isComputed()) return worst;
+    // Held below every critical temperature the iteration may come to rest where it has solved nothing.
+    if (!isSaturationPoint(smes, property, found.result.value, P, X)) return {{Standing::Diverged}};
     found.result.standing = worst.result.standing;
     return found;
 }
@@ -210,7 +147,10 @@ MixtureVerdict mixtureValue(Smes& smes, const MixtureProperty& property, double 
     const MixtureVerdict worst = worstPureValue(smes, property, T, X);
     if (!worst.result.isComputed()) return worst;
     MixtureVerdict found = objectValue(smes, property, T, P, X);
-    if (found.result.isComputed()) found.result.standing = standingOf(property, worst.result.standing);
+    if (!found.result.isComputed()) return found;
+    found.result.standing = standingOf(property, worst.result.standing);
+    const bool isOfGasAtPressure = property.phase == Phase::Gas && property.needsPressure;
+    if (isOfGasAtPressure && isMetastableGas(smes, T, P, X)) found.result.standing = Standing::Metastable;
     return found;
 }
 

@@ -31,53 +31,44 @@ Report answer(const MixtureRequest& request, const Database& database, UserInter
 
 namespace {
 
-enum class Region { Liquid, Gas, Both, Unknown };
-
-Region regionAt(double T, const BoilingRange& range) {
-    const PropertyValue &bubble = range.bubble.result, &dew = range.dew.result;
-    if (bubble.isComputed() && T < bubble.value) return Region::Liquid;
-    if (dew.isComputed() && T > dew.value) return Region::Gas;
-    return bubble.isComputed() && dew.isComputed() ? Region::Both : Region::Unknown;
-}
-
-std::string regionWord(Region region) {
-    switch (region) {
-        case Region::Liquid:
+std::string phaseWord(StablePhase phase) {
+    switch (phase) {
+        case StablePhase::Liquid:
             return "kapalina";
-        case Region::Gas:
+        case StablePhase::Gas:
             return "plyn";
-        case Region::Both:
+        case StablePhase::Both:
             return "kapalina a plyn";
-        case Region::Unknown:
+        case StablePhase::Unknown:
             break;
     }
     return "neznámé";
 }
 
-bool isShown(const MixtureProperty& property, Region region) {
-    if (property.phase == Phase::Liquid) return region != Region::Gas;
-    return property.phase == Phase::Any || region != Region::Liquid;
+bool isShown(const MixtureProperty& property, StablePhase stable) {
+    if (property.phase == Phase::Liquid) return stable != StablePhase::Gas;
+    return property.phase == Phase::Any || stable != StablePhase::Liquid;
 }
 
-Section stateSection(const OverviewRequest& request, Region region) {
+Section stateSection(const OverviewRequest& request, StablePhase stable) {
     return {"stav",
             "Stav",
             Entries{{"T", "teplota", request.temperature, "K"},
                     {"P", "tlak", request.pressure, "Pa"},
-                    {"skupenstvi", "skupenství (ideální směs)", regionWord(region), {}}},
+                    {"skupenstvi", "skupenství (ideální směs)", phaseWord(stable), {}}},
             {}};
 }
 
-std::vector<std::string> regionNotes(Region region) {
-    if (region == Region::Both) {
+std::vector<std::string> phaseNotes(StablePhase stable) {
+    if (stable == StablePhase::Both) {
         return {"Hodnoty kapaliny i plynu platí pro zadané složení; jak se směs rozdělí, vypočte velor flash."};
     }
-    if (region == Region::Unknown)
-        return {"Bez bodu varu a rosného bodu není skupenství známo, proto jsou uvedeny hodnoty kapaliny i plynu."};
+    if (stable == StablePhase::Unknown)
+        return {"Bez tenze par všech složek není skupenství známo, proto jsou uvedeny hodnoty kapaliny i plynu."};
     return {};
 }
 
-Section propertiesSection(const Mixture& mixture, const OverviewRequest& request, Region region) {
+Section propertiesSection(const Mixture& mixture, const OverviewRequest& request, StablePhase stable) {
     Table table;
     table.columns = {{"zkratka", "zkratka", ""},   {"popis", "vlastnost", ""},
                      {"symbol", "symbol", ""},     {"hodnota", "hodnota", ""},
@@ -85,7 +76,7 @@ Section propertiesSection(const Mixture& mixture, const OverviewRequest& request
     MixtureNotes notes;
     const Point point{request.temperature, request.pressure};
     for (const MixtureProperty& property : mixtureProperties()) {
-        if (!isShown(property, region)) continue;
+        if (!isShown(property, stable)) continue;
         const MixtureValue value = mixtureValue(mixture, property, point);
         table.rows.push_back({textCell(property.code), textCell(property.caption), textCell(property.symbol),
                               notes.cell(value), textCell(property.unit),
@@ -95,7 +86,7 @@ Section propertiesSection(const Mixture& mixture, const OverviewRequest& request
         "vlastnosti",
         "Vlastnosti směsi při " + roundedText(request.temperature) + " K a " + roundedText(request.pressure) + " Pa",
         std::move(table), notes.notes()};
-    for (const std::string& note : regionNotes(region)) section.notes.push_back(note);
+    for (const std::string& note : phaseNotes(stable)) section.notes.push_back(note);
     return section;
 }
 
@@ -104,8 +95,9 @@ Section propertiesSection(const Mixture& mixture, const OverviewRequest& request
 Report answer(const OverviewRequest& request, const Database& database, UserInterface&) {
     Mixture mixture = findMixture(request.composition, database);
     mixture.clamp = request.clamp;
-    const Region region = regionAt(request.temperature, boilingRange(mixture, request.pressure));
-    return {{compositionSection(mixture), stateSection(request, region), propertiesSection(mixture, request, region)},
+    MixtureObject object(mixture);
+    const StablePhase stable = stablePhase(object.smes, request.temperature, request.pressure, object.X);
+    return {{compositionSection(mixture), stateSection(request, stable), propertiesSection(mixture, request, stable)},
             "vlastnosti"};
 }
 
