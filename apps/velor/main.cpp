@@ -91,7 +91,7 @@ std::string run(int argc, const char* const* argv) {
 }
 
 int finish(ExitCode code, const std::string& text) {
-    if (!text.empty()) std::cerr << "velor: " << printable(text) << std::endl;
+    if (!text.empty()) tell(text);
     return static_cast<int>(code);
 }
 

@@ -39,7 +39,9 @@ const PureProperty* findPureProperty(std::string_view code);
 
 inline constexpr int kWater = 1;  // substance 1 of the database is water, by rule
 
-// What has to be said where a substance's equation of a property is shown but not used; mostly empty.
+// The equation that a property of a substance is computed by instead of its record's, and what has to be said where the
+// record's is shown; empty where it is the record's.
+std::string_view equationInstead(int substance, int property);
 std::string_view correlationNote(int substance, int property);
 
 // ---- Mixtures -----------------------------------------------------------------------------------

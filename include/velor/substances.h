@@ -43,10 +43,12 @@ std::vector<SubstanceName> namesOf(const Substance& substance);
 
 enum class Finding {
     Found,          // the one candidate
+    Interpreted,    // the one candidate, of whose name only the beginning or the beginning of a word was given: to be
+                    // told
     NothingTyped,   //
-    Unknown,        // the candidates have similar names, the most similar first
+    Unknown,        // the candidates have similar names or hold the text, the likeliest first
     UnknownNumber,  // digits, but no substance has that number
-    Several,        // any of the candidates may be meant, in the order of their numbers
+    Several,        // each of the candidates is called so, in the order of their numbers
 };
 
 struct FoundSubstance {
@@ -54,8 +56,8 @@ struct FoundSubstance {
     std::vector<const Substance*> candidates;  // of the list searched
 };
 
-// The substance that is meant by a number, or a CAS number, a whole name, a formula, a part of a name; what comes first
-// wins.
+// The substance that is meant by a number, or a CAS number, a whole name, a formula; what comes first wins. A part of a
+// name alone is never enough to be sure.
 FoundSubstance searchSubstance(const SubstanceList& substances, std::string_view wanted);
 
 // The names in a list as splitItems takes it. A comma that belongs to a whole name (2,2-Dimethylpropan) does not

@@ -132,8 +132,12 @@ std::span<const PureProperty> pureProperties() { return kPureProperties; }
 
 const PureProperty* findPureProperty(std::string_view code) { return findByCode(pureProperties(), code); }
 
+std::string_view equationInstead(int substance, int property) {
+    return substance == kWater && property == kROLW ? "IAPWS, nasycená kapalina (Wagner a Pruss, 1993)" : "";
+}
+
 std::string_view correlationNote(int substance, int property) {
-    if (substance != kWater || property != kROLW) return {};
+    if (equationInstead(substance, property).empty()) return {};
     return "Hustota vody (ROLW) se počítá rovnicí IAPWS pro nasycenou kapalinu, ne uvedeným vztahem.";
 }
 

@@ -52,9 +52,28 @@ bool isCalled(const Substance& substance, const std::string& name) {
     return std::ranges::find(names, name, &SubstanceName::folded) != names.end();
 }
 
-bool isCalledPartly(const Substance& substance, const std::string& part) {
-    return folded(substance.name).find(part) != std::string::npos ||
-           folded(substance.synonym).find(part) != std::string::npos;
+// Where a word of a folded text begins: behind a blank or a bracket. What stands behind a hyphen belongs to one name.
+bool beginsWord(std::string_view text, std::size_t position) {
+    constexpr std::string_view kBeforeWord = " (,";
+    return position == 0 || kBeforeWord.find(text[position - 1]) != std::string_view::npos;
+}
+
+bool holdsWordsFrom(std::string_view text, std::string_view part) {
+    for (std::size_t at = text.find(part); at != std::string_view::npos; at = text.find(part, at + 1))
+        if (beginsWord(text, at)) return true;
+    return false;
+}
+
+Criterion begunBy(const std::string& part) {
+    return [part](const Substance& s) {
+        return holdsWordsFrom(folded(s.name), part) || holdsWordsFrom(folded(s.synonym), part);
+    };
+}
+
+Criterion holding(const std::string& part) {
+    return [part](const Substance& s) {
+        return folded(s.name).find(part) != std::string::npos || folded(s.synonym).find(part) != std::string::npos;
+    };
 }
 
 // What the text can mean as a whole, the surest meaning first; empty when nothing.
@@ -76,13 +95,6 @@ Matches wholeMatches(const SubstanceList& substances, std::string_view wanted) {
     return {};
 }
 
-Matches matchesOf(const SubstanceList& substances, std::string_view wanted) {
-    Matches matches = wholeMatches(substances, wanted);
-    if (!matches.empty() || isDigits(wanted)) return matches;
-    const std::string part = folded(wanted);
-    return select(substances, [&](const Substance& s) { return isCalledPartly(s, part); });
-}
-
 // Names that differ from the wanted one by a slip or two.
 Matches similarTo(const SubstanceList& substances, std::string_view wanted) {
     const std::string name = folded(wanted);
@@ -100,6 +112,20 @@ Matches similarTo(const SubstanceList& substances, std::string_view wanted) {
     for (const auto& [distance, substance] : ranked)
         if (similar.size() < kMostSuggestions) similar.push_back(substance);
     return similar;
+}
+
+// What may have been meant by a text that is nothing as a whole, the likeliest first: a slip of typing, the beginning
+// of a name or of one of its words, any part of it.
+Matches nearMatches(const SubstanceList& substances, std::string_view wanted) {
+    const std::string part = folded(wanted);
+    Matches near = similarTo(substances, wanted);
+    const auto add = [&](const Matches& more) {
+        for (const Substance* const substance : more)
+            if (std::ranges::find(near, substance) == near.end()) near.push_back(substance);
+    };
+    add(select(substances, begunBy(part)));
+    add(select(substances, holding(part)));
+    return near;
 }
 
 // As they stood in a list separated by commas.
@@ -128,11 +154,12 @@ std::vector<SubstanceName> namesOf(const Substance& substance) {
 FoundSubstance searchSubstance(const SubstanceList& substances, std::string_view wanted) {
     const std::string_view text = trimBlanks(wanted);
     if (folded(text).empty()) return {Finding::NothingTyped, {}};
-    Matches matches = matchesOf(substances, text);
-    if (matches.empty() && isDigits(text)) return {Finding::UnknownNumber, {}};
-    if (matches.empty()) return {Finding::Unknown, similarTo(substances, text)};
-    const Finding outcome = matches.size() == 1 ? Finding::Found : Finding::Several;
-    return {outcome, std::move(matches)};
+    if (Matches whole = wholeMatches(substances, text); !whole.empty())
+        return {whole.size() == 1 ? Finding::Found : Finding::Several, std::move(whole)};
+    if (isDigits(text)) return {Finding::UnknownNumber, {}};
+    Matches near = nearMatches(substances, text);
+    const bool isOnlyOne = near.size() == 1 && begunBy(folded(text))(*near.front());
+    return {isOnlyOne ? Finding::Interpreted : Finding::Unknown, std::move(near)};
 }
 
 std::vector<std::string> splitSubstanceNames(const SubstanceList& substances, std::string_view wanted) {

@@ -103,7 +103,7 @@ Report answer(const EquilibriumRequest& request, const Database& database, UserI
     Section table = tableSection(points, pair, request.pressure);
     if (!request.pictureFile) return {{std::move(table)}, "rovnovaha"};
     drawPicture(pictureOf(points, pair, request.pressure), *request.pictureFile);
-    return {{pictureSection(*request.pictureFile, request.points, table.notes)}, {}};
+    return pictureReport(*request.pictureFile, std::move(table));
 }
 
 }  // namespace velor::app

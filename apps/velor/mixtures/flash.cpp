@@ -8,8 +8,10 @@ namespace {
 struct FlashAnswer {
     std::string text;  // the library's own report
     FlashRecord record;
-    std::optional<double> T0;  // K; not known where the library asked for it
-    double P = 0;              // Pa
+    std::optional<double> T0;                                      // K; not known where the library asked for it
+    double P = 0;                                                  // Pa
+    Standing bubble = Standing::InRange, dew = Standing::InRange;  // of the feed's points
+    Standing equilibrium = Standing::InRange;                      // of the K-values
     std::vector<std::string> notes;
 };
 
@@ -36,28 +38,27 @@ Value known(bool isKnown, double value) {
     return value;
 }
 
-bool isFound(SaturationOutcome outcome, double T) { return outcome != SaturationOutcome::Diverged && T > 0; }
-
 Section resultSection(const FlashAnswer& flash) {
     const FlashRecord& record = flash.record;
     const bool isIterated = record.outcome == FlashOutcome::Converged;
     const bool isAdiabatic = record.kind == FlashKind::Adiabatic;
     const bool isBalanced = isIterated && isAdiabatic;
-    return {
-        "flash", "Flash",
-        Entries{{"druh", "druh", std::string(isAdiabatic ? "adiabatický" : "izotermní"), {}},
-                {"vysledek", "výsledek", outcomeWord(record.outcome), {}},
-                {"V", "podíl páry k nástřiku", record.vapourFraction, "mol/mol"},
-                {"T0", "počáteční teplota", known(flash.T0.has_value(), flash.T0.value_or(0)), "K"},
-                {"T", "konečná teplota", record.temperature, "K"},
-                {"P", "tlak", flash.P, "Pa"},
-                {"Tb", "bod varu nástřiku",
-                 known(isFound(record.bubbleOutcome, record.bubblePoint), record.bubblePoint), "K"},
-                {"Td", "rosný bod nástřiku", known(isFound(record.dewOutcome, record.dewPoint), record.dewPoint), "K"},
-                {"pruchody", "počet průchodů", record.passes, {}},
-                {"latkova_bilance", "zbytek látkové bilance", known(isIterated, record.materialResidual), ""},
-                {"tepelna_bilance", "zbytek tepelné bilance", known(isBalanced, record.energyResidual), "J/mol"}},
-        flash.notes};
+    return {"flash", "Flash",
+            Entries{{"druh", "druh", std::string(isAdiabatic ? "adiabatický" : "izotermní"), {}},
+                    {"vysledek", "výsledek", outcomeWord(record.outcome), {}},
+                    {"V", "podíl páry k nástřiku", record.vapourFraction, "mol/mol"},
+                    {"T0", "počáteční teplota", known(flash.T0.has_value(), flash.T0.value_or(0)), "K"},
+                    {"T", "konečná teplota", record.temperature, "K"},
+                    {"P", "tlak", flash.P, "Pa"},
+                    {"Tb", "bod varu nástřiku", known(flash.bubble == Standing::InRange, record.bubblePoint), "K"},
+                    {"Tb_stav", "bod varu – stav", std::string(standingWord(flash.bubble)), {}},
+                    {"Td", "rosný bod nástřiku", known(flash.dew == Standing::InRange, record.dewPoint), "K"},
+                    {"Td_stav", "rosný bod – stav", std::string(standingWord(flash.dew)), {}},
+                    {"K_stav", "rovnovážné konstanty – stav", std::string(standingWord(flash.equilibrium)), {}},
+                    {"pruchody", "počet průchodů", record.passes, {}},
+                    {"latkova_bilance", "zbytek látkové bilance", known(isIterated, record.materialResidual), ""},
+                    {"tepelna_bilance", "zbytek tepelné bilance", known(isBalanced, record.energyResidual), "J/mol"}},
+            flash.notes};
 }
 
 Section componentsSection(const FlashRecord& record, const SubstanceList& substances) {
@@ -115,35 +116,81 @@ FlashAnswer runFlash(MixtureObject& object, int mode, double T, double P) {
     }
 }
 
-void requireResult(const FlashAnswer& flash) {
-    const std::string place = " při tlaku " + roundedText(flash.P) + " Pa";
-    if (flash.record.outcome == FlashOutcome::NotConverged) {
-        fail("Flash" + place + " nekonverguje: ani po " + std::to_string(flash.record.passes) +
-             " průchodech není výsledek ustálený.");
-    }
-    // Without a dew point nobody knows whether the temperature lies above it.
-    if (flash.record.outcome == FlashOutcome::AllVapour && flash.record.dewOutcome == SaturationOutcome::Diverged)
-        fail("Flash nelze vypočítat: rosný bod nástřiku" + place + " nekonverguje.");
+std::string place(const FlashAnswer& flash) { return " při tlaku " + roundedText(flash.P) + " Pa"; }
+
+// A point that does not meet its own equation is none, whatever the library took it for.
+Standing standingOf(const FlashAnswer& flash, MixtureObject& object, std::string_view code, double T) {
+    const MixtureProperty& point = *findMixtureProperty(code);
+    const bool isFound = T > 0 && isSaturationPoint(object.smes, point, T, flash.P, Fractions(flash.record.feed));
+    return isFound ? Standing::InRange : Standing::Diverged;
 }
 
-// The K-values of the result, which nobody else has looked at.
-std::vector<std::string> notes(const FlashAnswer& flash, const Mixture& mixture, MixtureObject& object) {
+// Where nothing was iterated all depends on one of the points; without it the phase must be certain in another way.
+void requireCertainPhase(const FlashAnswer& flash, MixtureObject& object) {
+    const FlashOutcome outcome = flash.record.outcome;
+    const bool isAllVapour = outcome == FlashOutcome::AllVapour, isAllLiquid = outcome == FlashOutcome::AllLiquid;
+    const Standing decisive = isAllVapour ? flash.dew : isAllLiquid ? flash.bubble : Standing::InRange;
+    if (decisive == Standing::InRange) return;
+    const StablePhase stable =
+        stablePhase(object.smes, flash.record.temperature, flash.P, Fractions(flash.record.feed));
+    if (stable == (isAllVapour ? StablePhase::Gas : StablePhase::Liquid)) return;
+    fail(std::string("Flash nelze vypočítat: ") + (isAllVapour ? "rosný bod" : "bod varu") + " nástřiku" +
+         place(flash) + " nekonverguje.");
+}
+
+void requireResult(const FlashAnswer& flash, MixtureObject& object) {
+    if (flash.record.outcome == FlashOutcome::NotConverged) {
+        fail("Flash" + place(flash) + " nekonverguje: ani po " + std::to_string(flash.record.passes) +
+             " průchodech není výsledek ustálený.");
+    }
+    requireCertainPhase(flash, object);
+}
+
+// What the report leaves unsaid.
+std::vector<std::string> explanations(const FlashAnswer& flash) {
+    std::vector<std::string> lines{"Směs je brána za ideální (Raoultův zákon); složení jsou v molových zlomcích."};
+    lines.emplace_back(
+        flash.record.equilibrium.empty()
+            ? "První tlak v hlášení, tenze par nástřiku, se bez iterace neurčuje (0); flash je při druhém."
+            : "První tlak v hlášení je tenze par nástřiku, flash je při druhém.");
+    if (flash.bubble != Standing::InRange)
+        lines.emplace_back("Bod varu nástřiku nekonverguje; hodnota v hlášení neplatí.");
+    if (flash.dew != Standing::InRange)
+        lines.emplace_back("Rosný bod nástřiku nekonverguje; hodnota v hlášení neplatí.");
+    return lines;
+}
+
+std::vector<std::string> supercriticalNotes(const FlashAnswer& flash, const Mixture& mixture,
+                                            const MixtureObject& object) {
     std::vector<std::string> notes;
-    if (flash.record.bubbleOutcome == SaturationOutcome::Diverged)
-        notes.emplace_back("Bod varu nástřiku nekonverguje; hodnota v hlášení neplatí.");
-    if (flash.record.dewOutcome == SaturationOutcome::Diverged)
-        notes.emplace_back("Rosný bod nástřiku nekonverguje; hodnota v hlášení neplatí.");
-    if (flash.record.outcome != FlashOutcome::Converged) return notes;
-    const MixtureValue worst = worstPureValue(mixture, object, *findMixtureProperty("TENS"), flash.record.temperature);
-    if (!worst.result.isComputed()) fail("Flash nelze vypočítat.\n  " + worst.reason);
-    if (worst.result.standing != Standing::InRange) notes.push_back(worst.reason);
+    for (std::size_t i = 0; i < mixture.substances.size(); ++i) {
+        const double Tc = object.smes.Tkri(static_cast<int>(i) + 1).toDouble();
+        if (mixture.moleFractions[i] == 0 || flash.record.temperature <= Tc) continue;
+        notes.push_back(mixture.substances[i].name + ": teplota " + roundedText(flash.record.temperature) +
+                        " K je nad kritickou (" + roundedText(Tc) + " K), tenze par se bere při 0.98 Tkr.");
+    }
     return notes;
 }
 
 Report flashReport(FlashAnswer flash, Mixture mixture, MixtureObject& object) {
-    requireResult(flash);
     mixture.moleFractions = flash.record.feed;
-    flash.notes = notes(flash, mixture, object);
+    if (flash.record.outcome != FlashOutcome::None) {
+        flash.bubble = standingOf(flash, object, "TBV", flash.record.bubblePoint);
+        flash.dew = standingOf(flash, object, "TRB", flash.record.dewPoint);
+    }
+    requireResult(flash, object);
+    flash.notes = explanations(flash);
+    const auto supercritical = supercriticalNotes(flash, mixture, object);
+    flash.notes.insert(flash.notes.end(), supercritical.begin(), supercritical.end());
+    if (flash.record.outcome == FlashOutcome::Converged) {
+        // The K-values of the result, which nobody else has looked at.
+        const MixtureValue worst =
+            worstPureValue(mixture, object, *findMixtureProperty("TENS"), flash.record.temperature);
+        if (!worst.result.isComputed()) fail("Flash nelze vypočítat.\n  " + worst.reason);
+        flash.equilibrium = worst.result.standing;
+        const bool isSaid = flash.equilibrium == Standing::BelowCritical;
+        if (flash.equilibrium != Standing::InRange && !isSaid) flash.notes.push_back(worst.reason);
+    }
     return {{resultSection(flash), componentsSection(flash.record, mixture.substances)}, {}, textOf(flash)};
 }
 

@@ -59,13 +59,12 @@ Drawing drawing(const PropertyRequest& request, const Database& database, UserIn
     return {std::move(values), std::move(picture)};
 }
 
-Drawing drawing(const MixturePropertyRequest& request, const Database& database, UserInterface& userInterface) {
+Drawing drawing(const MixturePropertyRequest& request, const Database& database, UserInterface&) {
     requireDependence(*request.property);
     requireTemperatures(request.temperatures);
-    const std::string name = mixtureName(findMixture(request.composition, database));
-    Report values = answer(request, database, userInterface);
-    Picture picture = pictureOf(valuesSection(values), request.property->symbol, name);
-    if (request.property->needsPressure) picture.title += " při " + roundedText(*request.pressure) + " Pa";
+    const Mixture mixture = findMixture(request.composition, database, request.clamp);
+    Report values = propertyReport(request, mixture);
+    Picture picture = pictureOf(valuesSection(values), request.property->symbol, mixtureName(mixture));
     return {std::move(values), std::move(picture)};
 }
 
@@ -75,9 +74,8 @@ Report answer(const GraphRequest& request, const Database& database, UserInterfa
     const Drawing drawn =
         std::visit([&](const auto& curves) { return drawing(curves, database, userInterface); }, request.curves);
     drawPicture(drawn.picture, request.pictureFile);
-    const Section& values = valuesSection(drawn.values);
-    const int points = static_cast<int>(std::get<Table>(values.content).rows.size());
-    return {{pictureSection(request.pictureFile, points, values.notes)}, {}};
+    Section values = valuesSection(drawn.values);
+    return pictureReport(request.pictureFile, std::move(values));
 }
 
 }  // namespace velor::app

@@ -45,7 +45,7 @@ std::vector<double> givenFractions(const CompositionRequest& request, const Subs
 
 }  // namespace
 
-Mixture findMixture(const CompositionRequest& request, const Database& database) {
+Mixture findMixture(const CompositionRequest& request, const Database& database, bool clamp) {
     const SubstanceList substances = findSubstances(database.substances, request.substances);
     Mixture mixture{database, substances, givenFractions(request, substances)};
     MixtureObject object(mixture);
@@ -56,6 +56,7 @@ Mixture findMixture(const CompositionRequest& request, const Database& database)
         object.smes.Comol(byMass, fractions);
     }
     mixture.moleFractions = elements(fractions);
+    mixture.clamp = clamp;
     return mixture;
 }
 

@@ -9,7 +9,10 @@
 namespace velor::app {
 
 // Failure(WrongUse): a wrong number of fractions, or a sum that is not 1 and not to be normalised.
-Mixture findMixture(const CompositionRequest& request, const Database& database);
+Mixture findMixture(const CompositionRequest& request, const Database& database, bool clamp = false);
+
+// The answer to vlastnost for a mixture that is known already.
+Report propertyReport(const MixturePropertyRequest& request, const Mixture& mixture);
 
 // Keeps what the library says; passes it on where there is somebody to answer.
 class MessageLog : public RecordingUserInterface {

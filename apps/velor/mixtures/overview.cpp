@@ -93,8 +93,7 @@ Section propertiesSection(const Mixture& mixture, const OverviewRequest& request
 }  // namespace
 
 Report answer(const OverviewRequest& request, const Database& database, UserInterface&) {
-    Mixture mixture = findMixture(request.composition, database);
-    mixture.clamp = request.clamp;
+    const Mixture mixture = findMixture(request.composition, database, request.clamp);
     MixtureObject object(mixture);
     const StablePhase stable = stablePhase(object.smes, request.temperature, request.pressure, object.X);
     return {{compositionSection(mixture), stateSection(request, stable), propertiesSection(mixture, request, stable)},

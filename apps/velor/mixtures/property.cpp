@@ -1,4 +1,5 @@
 #include "mixtures/mixture.h"
+#include "velor/text.h"
 
 namespace velor::app {
 
@@ -48,22 +49,25 @@ Section valuesSection(const Values& values, const std::vector<Point>& points, co
         row.push_back(notes.cell(values[i]));
         row.push_back(textCell(standingWord(values[i].result.standing)));
     }
-    const std::string title = std::string(property.code) + " – " + std::string(property.caption);
+    std::string title = std::string(property.code) + " – " + std::string(property.caption);
+    if (property.needsPressure) title += " při " + roundedText(points.front().P) + " Pa";
     return {"hodnoty", title, std::move(table), notes.notes()};
 }
 
 }  // namespace
 
-Report answer(const MixturePropertyRequest& request, const Database& database, UserInterface&) {
+Report propertyReport(const MixturePropertyRequest& request, const Mixture& mixture) {
     const MixtureProperty& property = *request.property;
-    Mixture mixture = findMixture(request.composition, database);
-    mixture.clamp = request.clamp;
     const std::vector<Point> places = points(request);
     Values values;
     for (const Point& point : places) values.push_back(mixtureValue(mixture, property, point));
     requireAnyValue(values, property);
     return {{propertySection(property), compositionSection(mixture), valuesSection(values, places, property)},
             "hodnoty"};
+}
+
+Report answer(const MixturePropertyRequest& request, const Database& database, UserInterface&) {
+    return propertyReport(request, findMixture(request.composition, database, request.clamp));
 }
 
 }  // namespace velor::app

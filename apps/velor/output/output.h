@@ -124,7 +124,7 @@ std::string pictureFileName(std::string_view name);
 // the file cannot be written.
 void drawPicture(const Picture& picture, const std::string& fileName);
 
-// What there is to say of a picture that was drawn.
-Section pictureSection(const std::string& fileName, int points, std::vector<std::string> notes);
+// What there is to say of a picture that was drawn of a table: people read its notes, programs the whole table, too.
+Report pictureReport(const std::string& fileName, Section drawn);
 
 }  // namespace velor::app

@@ -143,9 +143,13 @@ void drawPicture(const Picture& picture, const std::string& fileName) {
     }
 }
 
-Section pictureSection(const std::string& fileName, int points, std::vector<std::string> notes) {
-    return {"obrazek", "Obrázek", Entries{{"soubor", "soubor", fileName, {}}, {"bodu", "bodů na křivku", points, {}}},
-            std::move(notes)};
+Report pictureReport(const std::string& fileName, Section drawn) {
+    const int points = static_cast<int>(std::get<Table>(drawn.content).rows.size());
+    drawn.title.clear();
+    return {{{"obrazek", "Obrázek", Entries{{"soubor", "soubor", fileName, {}}, {"bodu", "bodů na křivku", points, {}}},
+              drawn.notes},
+             std::move(drawn)},
+            {}};
 }
 
 }  // namespace velor::app

@@ -31,6 +31,9 @@ class Failure : public std::runtime_error {
     ExitCode code_;
 };
 
+// Says something beside the answer: a line on the error stream.
+void tell(const std::string& text);
+
 // A run-time error of the library for Czech readers: "soubor nenalezen (chyba 53)".
 std::string describe(const RunTimeError& error);
 

@@ -33,7 +33,7 @@ std::string numbersOf(const SubstanceList& substances) {
            std::to_string(substances.back().number) + ".";
 }
 
-std::string similarNames(const Matches& similar) { return similar.empty() ? "" : " Podobné názvy:" + listed(similar); }
+std::string likelyOnes(const Matches& likely) { return likely.empty() ? "" : " Mohlo by jít o:" + listed(likely); }
 
 }  // namespace
 
@@ -43,10 +43,14 @@ const Substance& findSubstance(const SubstanceList& substances, std::string_view
     switch (outcome) {
         case Finding::Found:
             break;
+        case Finding::Interpreted:
+            tell("„" + std::string(text) + "“ vyloženo jako " + candidates.front()->name + " (č. " +
+                 std::to_string(candidates.front()->number) + ").");
+            break;
         case Finding::NothingTyped:
             throw Failure(ExitCode::WrongUse, "Chybí číslo, název, vzorec nebo CAS látky.");
         case Finding::Unknown:
-            throw Failure(ExitCode::NothingComputed, unknownText(text) + similarNames(candidates));
+            throw Failure(ExitCode::NothingComputed, unknownText(text) + likelyOnes(candidates));
         case Finding::UnknownNumber:
             throw Failure(ExitCode::NothingComputed, unknownText(text) + numbersOf(substances));
         case Finding::Several:

@@ -29,6 +29,14 @@ Row equationCells(const Smes& smes, int slot, int property) {
     return {{item(kTmin), {}}, {item(kTmax), {}}, {item(kTyp), {}}, textCell(trimBlanks(equation))};
 }
 
+// Of the equation that the value is computed by.
+Row usedEquationCells(const Smes& smes, int substance, int slot, int property) {
+    Row cells = equationCells(smes, slot, property);
+    const std::string_view instead = equationInstead(substance, property);
+    if (!instead.empty()) cells = {cells[0], cells[1], {}, textCell(instead)};
+    return cells;
+}
+
 Row coefficientCells(const Smes& smes, int slot, int property) {
     Row cells(kCoefficients);
     if (!isGiven(smes, slot, property)) return cells;
@@ -105,12 +113,10 @@ Section valuesSection(Smes& smes, double T, const Substance& substance, int slot
         const PropertyValue value = pureValue(smes, T, slot, property);
         Row row = propertyCells(property);
         append(row, {notes.cell(value), textCell(property.unit), textCell(standingWord(value.standing))});
-        append(row, equationCells(smes, slot, property.number));
+        append(row, usedEquationCells(smes, substance.number, slot, property.number));
         table.rows.push_back(std::move(row));
     }
-    Section section{"vlastnosti", "Vlastnosti při " + roundedText(T) + " K", std::move(table), notes.notes()};
-    for (const std::string& note : densityNote(substance)) section.notes.push_back(note);
-    return section;
+    return {"vlastnosti", "Vlastnosti při " + roundedText(T) + " K", std::move(table), notes.notes()};
 }
 
 Section rangesSection(const Smes& smes, const SubstanceList& substances, int property) {
@@ -119,7 +125,7 @@ Section rangesSection(const Smes& smes, const SubstanceList& substances, int pro
     int slot = 0;
     for (const Substance& substance : substances) {
         Row row{{substance.number, {}}, textCell(substance.name), textCell(substance.formula)};
-        append(row, equationCells(smes, ++slot, property));
+        append(row, usedEquationCells(smes, substance.number, ++slot, property));
         table.rows.push_back(std::move(row));
     }
     return {"latky", "Látky", std::move(table), {}};
