@@ -81,7 +81,7 @@ enum class StablePhase { Liquid, Gas, Both, Unknown };  // the last where a vapo
 StablePhase stablePhase(Smes& smes, double T, double P, const Variant& X);
 // Whether part of the gas would condense, see Standing::Metastable.
 bool isMetastableGas(Smes& smes, double T, double P, const Variant& X);
-// Whether T is the mixture's bubble or dew point, whichever the property is, by its equation within 1 %.
+// Whether T is the mixture's bubble or dew point, whichever the property is, by its equation within 3 %.
 bool isSaturationPoint(Smes& smes, const MixtureProperty& property, double T, double P, const Variant& X);
 
 }  // namespace velor

@@ -67,7 +67,11 @@ void describeProgram(CLI::App& program, Arguments& arguments) {
 }
 
 std::optional<ReadyAnswer> hiddenAnswer(const CLI::App& program, const Arguments& arguments) {
-    if (program.got_subcommand(kCompletionCommand)) return completionText(program, arguments.completion);
+    if (program.got_subcommand(kCompletionCommand)) {
+        constexpr double kPatience = 3.0;  // s; a shell waits for it with every key
+        const TimeLimit limit(kPatience);
+        return completionText(program, arguments.completion);
+    }
     if (program.got_subcommand(kManualCommand)) return manualPage(program, version());
     return std::nullopt;
 }

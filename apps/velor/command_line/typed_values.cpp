@@ -107,10 +107,21 @@ std::vector<double> parseRange(std::string_view text) {
                  number(text.substr(second + 1)));
 }
 
+// One comma between digits may separate two temperatures or be the decimal comma of one: nobody is to guess.
+void refuseAmbiguity(std::string_view text) {
+    const std::size_t comma = text.find(',');
+    if (comma == std::string_view::npos || text.find_first_not_of("0123456789,") != std::string_view::npos) return;
+    if (comma == 0 || comma + 1 == text.size() || text.find(',', comma + 1) != std::string_view::npos) return;
+    const std::string first(text.substr(0, comma)), second(text.substr(comma + 1));
+    refuse("„" + std::string(text) + "“ může být jedna teplota i dvě: jednu zapište " + first + "." + second +
+           ", dvě " + first + ";" + second + ".");
+}
+
 }  // namespace
 
 std::vector<double> parseTemperatures(std::string_view text) {
     if (text.find(':') != std::string_view::npos) return parseRange(text);
+    refuseAmbiguity(trimBlanks(text));
     const std::vector<std::string> items = splitItems(text);
     if (static_cast<double>(items.size()) > kMostPoints) refuse("Teplot je příliš mnoho.");
     std::vector<double> temperatures;

@@ -80,16 +80,16 @@ Section tableSection(const std::vector<BoilingPoint>& points, const SubstanceLis
     return {"rovnovaha", title(pair, P), std::move(table), notes.notes()};
 }
 
-Value temperature(const MixtureValue& value) {
-    if (!value.result.isComputed()) return {};
-    return value.result.value;
+Curve::Point drawn(double x, const MixtureValue& value) {
+    const PropertyValue& result = value.result;
+    return {x, result.isComputed() ? std::optional(result.value) : std::nullopt, result.standing == Standing::InRange};
 }
 
 Picture pictureOf(const std::vector<BoilingPoint>& points, const SubstanceList& pair, double P) {
     Curve liquid{"bod varu (kapalina x)", {}}, vapour{"rosný bod (pára y)", {}};
     for (const BoilingPoint& point : points) {
-        liquid.points.emplace_back(point.x, temperature(point.bubble));
-        vapour.points.emplace_back(point.x, temperature(point.dew));
+        liquid.points.push_back(drawn(point.x, point.bubble));
+        vapour.points.push_back(drawn(point.x, point.dew));
     }
     return {title(pair, P), "molový zlomek x, y – " + pair[0].name, "T [K]", {std::move(liquid), std::move(vapour)}};
 }

@@ -21,7 +21,7 @@ Picture pictureOf(const Section& section, std::string_view symbol, const std::st
         if (column.audience == Column::Audience::Machines) continue;
         picture.vertical = std::string(symbol) + (column.unit.empty() ? "" : " [" + column.unit + "]");
         Curve curve{onlyCurve.empty() ? column.caption : onlyCurve, {}};
-        for (const auto& row : table.rows) curve.points.emplace_back(row.front().value, row[i].value);
+        for (const auto& row : table.rows) curve.points.push_back(pointOf(row.front(), row[i]));
         picture.curves.push_back(std::move(curve));
     }
     return picture;

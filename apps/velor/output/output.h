@@ -104,9 +104,19 @@ inline std::string print(const Report& report, OutputForm form) {
 // ---- Curves drawn into a picture file ----------------------------------------------------------------------------
 
 struct Curve {
+    struct Point {
+        std::optional<double> x, y;  // where one is missing the curve is broken
+        bool isSure = true;          // false for a value to be read with care: its piece of the curve is dashed
+
+        bool isThere() const { return x && y; }
+    };
+
     std::string name;
-    std::vector<std::pair<Value, Value>> points;  // one that lacks a coordinate breaks the curve
+    std::vector<Point> points;
 };
+
+// The point of two cells of a table; a mark behind a value says that it is to be read with care.
+Curve::Point pointOf(const Cell& x, const Cell& y);
 
 struct Picture {
     std::string title;

@@ -1,10 +1,19 @@
-#include <spawn.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
+#include <cctype>
 #include <cerrno>
+#include <cmath>
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <limits>
 #include <memory>
+#include <set>
+#include <utility>
 
 #include "output/output.h"
 #include "people/people.h"
@@ -41,45 +50,36 @@ class ScratchFile {
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> file_;
 };
 
-class FileActions {
-  public:
-    FileActions() { posix_spawn_file_actions_init(&actions_); }
-    ~FileActions() { posix_spawn_file_actions_destroy(&actions_); }
-    FileActions(const FileActions&) = delete;
-    FileActions& operator=(const FileActions&) = delete;
+constexpr int kNotFound = 127;  // as shells say that there is no such program
 
-    void use(const ScratchFile& file, int descriptor) {
-        posix_spawn_file_actions_adddup2(&actions_, file.descriptor(), descriptor);
-    }
-    const posix_spawn_file_actions_t* get() const { return &actions_; }
+// In the new process: only what may be called there between fork and exec.
+[[noreturn]] void becomeGnuplot(int input, int output, int errors) {
+    prctl(PR_SET_PDEATHSIG, SIGKILL);  // it ends with the command, whatever ends that
+    dup2(input, STDIN_FILENO);
+    dup2(output, STDOUT_FILENO);
+    dup2(errors, STDERR_FILENO);
+    execlp("gnuplot", "gnuplot", "--default-settings", nullptr);  // not those of the user
+    _exit(kNotFound);
+}
 
-  private:
-    posix_spawn_file_actions_t actions_{};
-};
-
-bool endedWell(pid_t process) {
+int exitCodeOf(pid_t process) {
     int status = 0;
     while (waitpid(process, &status, 0) < 0)
-        if (errno != EINTR) return false;
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        if (errno != EINTR) return EXIT_FAILURE;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : EXIT_FAILURE;
 }
 
 // Runs a script that draws to the standard output, in a process of its own, and returns the picture's bytes.
 std::string runGnuplot(std::string_view script) {
     const ScratchFile input(script);
     ScratchFile picture, errors;
-    FileActions streams;
-    streams.use(input, STDIN_FILENO);
-    streams.use(picture, STDOUT_FILENO);
-    streams.use(errors, STDERR_FILENO);
-    std::string program = "gnuplot", ownSettings = "--default-settings";  // not those of the user
-    char* const words[] = {program.data(), ownSettings.data(), nullptr};
-    pid_t process = 0;
-    if (posix_spawnp(&process, program.c_str(), streams.get(), nullptr, words, environ) != 0)
-        fail("Obrázky kreslí program gnuplot, který není nainstalován (balíček gnuplot-nox).");
-    const bool isDrawn = endedWell(process);
+    const pid_t process = fork();
+    if (process == 0) becomeGnuplot(input.descriptor(), picture.descriptor(), errors.descriptor());
+    if (process < 0) fail("Program gnuplot nelze spustit.");
+    const int exitCode = exitCodeOf(process);
+    if (exitCode == kNotFound) fail("Obrázky kreslí program gnuplot, který není nainstalován (balíček gnuplot-nox).");
     std::string image = picture.content();
-    if (!isDrawn || image.empty()) fail("Program gnuplot obrázek nenakreslil: " + errors.content());
+    if (exitCode != 0 || image.empty()) fail("Program gnuplot obrázek nenakreslil: " + errors.content());
     return image;
 }
 
@@ -89,24 +89,74 @@ bool endsIn(std::string_view name, std::string_view ending) {
     return name.size() > ending.size() && equalIgnoringCase(name.substr(name.size() - ending.size()), ending);
 }
 
-// A text of gnuplot's that nothing is interpreted in.
+// A text of gnuplot's that nothing is interpreted in: whatever is no letter, digit or blank stands by its code.
 std::string literal(std::string_view text) {
-    std::string result = "'";
-    for (const char c : text) result += c == '\'' ? std::string("''") : std::string(1, c);
-    return result + "'";
+    std::string result = "\"";
+    for (const char c : text) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool isPlain = byte >= 0x80 || std::isalnum(byte) != 0 || c == ' ';
+        char code[5];
+        std::snprintf(code, sizeof code, "\\%03o", byte);
+        result += isPlain ? std::string(1, c) : code;
+    }
+    return result + "\"";
 }
 
-std::string coordinate(const Value& value) {
-    const auto* const number = std::get_if<double>(&value);
-    return number ? exactText(*number) : "NaN";
+std::string coordinates(const Curve::Point& point) { return exactText(*point.x) + " " + exactText(*point.y) + "\n"; }
+
+std::string blockName(std::size_t curve, bool isSure) { return (isSure ? "$sure" : "$unsure") + std::to_string(curve); }
+
+// The pieces of the curve that are sure, or those that are not, which meet them at their ends. A blank line ends a
+// piece, so that nothing is drawn over a point that is missing.
+std::string pieces(const Curve& curve, bool wantsSure) {
+    std::string text;
+    bool isBegun = false;
+    for (std::size_t i = 1; i < curve.points.size(); ++i) {
+        const Curve::Point &from = curve.points[i - 1], &to = curve.points[i];
+        const bool isWanted = from.isThere() && to.isThere() && (from.isSure && to.isSure) == wantsSure;
+        if (isWanted && !isBegun) text += coordinates(from);
+        if (isWanted) text += coordinates(to);
+        if (!isWanted && isBegun) text += "\n";
+        isBegun = isWanted;
+    }
+    return text;
 }
 
-std::string blockName(std::size_t index) { return "$curve" + std::to_string(index); }
+// As many as a mixture may have components.
+constexpr auto kColours = std::to_array<std::string_view>(
+    {"#1b6ca8", "#d95f02", "#1b9e77", "#c2185b", "#7b4fb5", "#8c6d1f", "#000000", "#e6ab02", "#66a61e", "#00a6c8",
+     "#e377c2", "#7f7f7f", "#a0522d", "#3949ab", "#ff5c4d", "#009688", "#9ccc65", "#5d4037", "#b39ddb", "#f48fb1"});
 
-std::string dataBlock(std::size_t index, const Curve& curve) {
-    std::string block = blockName(index) + " << END\n";
-    for (const auto& [x, y] : curve.points) block += coordinate(x) + " " + coordinate(y) + "\n";
-    return block + "END\n";
+std::string line(std::string_view colour, bool isSure) {
+    return std::string(" with lines linecolor rgb '").append(colour).append("' dashtype ").append(isSure ? "1" : "2");
+}
+
+// Solid where the values hold; one entry of the legend tells what is dashed.
+std::string plotCommand(const std::vector<Curve>& curves, const std::set<std::string>& blocks) {
+    std::string text, separator = "plot ";
+    bool isAllSure = true;
+    for (std::size_t i = 0; i < curves.size(); ++i) {
+        const std::string_view colour = kColours[i % kColours.size()];
+        text += std::exchange(separator, ", ") + "keyentry" + line(colour, true) + " title " + literal(curves[i].name);
+        for (const bool isSure : {true, false}) {
+            if (!blocks.contains(blockName(i, isSure))) continue;
+            text += separator + blockName(i, isSure) + " using 1:2" + line(colour, isSure) + " notitle";
+            isAllSure = isAllSure && isSure;
+        }
+    }
+    if (!isAllSure) text += separator + "keyentry" + line("#000000", false) + " title " + literal("hodnoty s výhradou");
+    return text + "\n";
+}
+
+// As many digits as keep the labels of an axis apart.
+std::string labelFormat(const std::vector<Curve>& curves, std::optional<double> Curve::Point::*coordinate) {
+    double least = std::numeric_limits<double>::infinity(), most = -least;
+    for (const Curve& curve : curves)
+        for (const Curve::Point& point : curve.points)
+            if (const auto& value = point.*coordinate) least = std::min(least, *value), most = std::max(most, *value);
+    const double parts = std::max(std::abs(least), std::abs(most)) / (most - least);
+    const int digits = std::isfinite(parts) ? 2 + static_cast<int>(std::ceil(std::log10(parts))) : 0;
+    return "'%." + std::to_string(std::clamp(digits, 6, 15)) + "g'\n";
 }
 
 std::string script(const Picture& picture, bool isPng) {
@@ -114,18 +164,32 @@ std::string script(const Picture& picture, bool isPng) {
     text += isPng ? "pngcairo size 900,600 font 'Sans,12'"
                   : "svg size 900,600 dynamic font 'DejaVu Sans,Arial,sans-serif,16'";
     text += " noenhanced linewidth 2 background rgb 'white'\n";
-    text += "set datafile missing 'NaN'\nset grid linewidth 0.5\nset key tmargin center horizontal\n";
+    text += "set format x " + labelFormat(picture.curves, &Curve::Point::x);
+    text += "set format y " + labelFormat(picture.curves, &Curve::Point::y);
+    text += "set grid linewidth 0.5\nset key tmargin center horizontal\n";
     text += "set title " + literal(picture.title) + "\nset xlabel " + literal(picture.horizontal) + "\nset ylabel " +
             literal(picture.vertical) + "\n";
-    for (std::size_t i = 0; i < picture.curves.size(); ++i) text += dataBlock(i, picture.curves[i]);
-    text += "plot ";
+    std::set<std::string> blocks;  // those that hold anything: gnuplot complains of empty ones
     for (std::size_t i = 0; i < picture.curves.size(); ++i) {
-        text += (i == 0 ? "" : ", ") + blockName(i) + " using 1:2 with lines title " + literal(picture.curves[i].name);
+        for (const bool isSure : {true, false}) {
+            const std::string points = pieces(picture.curves[i], isSure);
+            if (points.empty()) continue;
+            blocks.insert(blockName(i, isSure));
+            text += blockName(i, isSure) + " << END\n" + points + "END\n";
+        }
     }
-    return text + "\n";
+    return text + plotCommand(picture.curves, blocks);
 }
 
 }  // namespace
+
+Curve::Point pointOf(const Cell& x, const Cell& y) {
+    const auto number = [](const Cell& cell) {
+        const auto* const value = std::get_if<double>(&cell.value);
+        return value ? std::optional(*value) : std::nullopt;
+    };
+    return {number(x), number(y), y.mark.empty()};
+}
 
 bool isPictureFileName(std::string_view name) { return endsIn(name, kSvg) || endsIn(name, kPng); }
 
