@@ -76,6 +76,12 @@ std::optional<ReadyAnswer> hiddenAnswer(const CLI::App& program, const Arguments
     return std::nullopt;
 }
 
+[[noreturn]] void refuse(const CLI::App& program, const std::string& text) {
+    const auto commands = program.get_subcommands();
+    const std::string command = commands.empty() ? "" : commands.front()->get_name() + " ";
+    throw Failure(ExitCode::WrongUse, text + "\nNápověda: velor " + command + "--help");
+}
+
 }  // namespace
 
 void addCommonOptions(CLI::App* app, Arguments& arguments) {
@@ -105,7 +111,9 @@ std::variant<Request, ReadyAnswer> parseArguments(int argc, const char* const* a
         const std::string text = program.get_subcommands().empty() && !unknown.empty()
                                      ? "Neznámý příkaz nebo přepínač „" + unknown.front() + "“."
                                      : czechParseError(error);
-        throw Failure(ExitCode::WrongUse, text + "\nNápověda: velor --help");
+        refuse(program, text);
+    } catch (const Failure& failure) {
+        refuse(program, failure.what());
     }
     if (auto answer = hiddenAnswer(program, arguments)) return *std::move(answer);
     return Request{chosenDatabase(program, arguments), outputForm(arguments), typedSeconds(arguments.timeLimit),

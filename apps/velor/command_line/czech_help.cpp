@@ -1,6 +1,7 @@
 #include <string_view>
 
 #include "command_line/help.h"
+#include "completion/completion.h"
 #include "velor/text.h"
 
 namespace velor::app {
@@ -69,12 +70,25 @@ std::string definition(const std::string& name, const std::string& description) 
 
 std::shared_ptr<CLI::Formatter> czechFormatter() { return std::make_shared<CzechFormatter>(); }
 
+std::string missingText(std::string_view name) {
+    constexpr auto kExamples = std::to_array<std::pair<std::string_view, std::string_view>>(
+        {{"--latky", "--latky voda,ethanol"},
+         {"--teplota", "-T 300"},
+         {"--vystup", "--vystup graf.svg"},
+         {kSubstanceValue, "voda"},
+         {kPropertyValue, "TENS; všechny vypíše velor vlastnost --seznam"}});
+    std::string text = "Chybí povinný údaj " + std::string(name) + ".";
+    for (const auto& [missing, example] : kExamples)
+        if (missing == name) text.append(" Zadejte např. ").append(example);
+    return text;
+}
+
 std::string czechParseError(const CLI::ParseError& error) {
     const std::string_view text = error.what();
     switch (static_cast<CLI::ExitCodes>(error.get_exit_code())) {
         case CLI::ExitCodes::RequiredError:
             if (text == "A subcommand is required") return "Chybí příkaz.";
-            return "Chybí povinný údaj " + std::string(before(text, " is required")) + ".";
+            return missingText(before(text, " is required"));
         case CLI::ExitCodes::ExtrasError:
             return "Nečekaný údaj: " + std::string(behind(text, ": "));
         case CLI::ExitCodes::ArgumentMismatch:

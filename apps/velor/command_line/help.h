@@ -41,6 +41,9 @@ std::shared_ptr<CLI::Formatter> czechFormatter();
 // What is wrong with the command line, as a Czech sentence.
 std::string czechParseError(const CLI::ParseError& error);
 
+// That an option or a positional is missing, with an example of it.
+std::string missingText(std::string_view name);
+
 // The manual page of the command, made of its description: in the language of the man macros, UTF-8.
 std::string manualPage(const CLI::App& program, const std::string& version);
 

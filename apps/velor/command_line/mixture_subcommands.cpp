@@ -1,3 +1,4 @@
+#include "command_line/help.h"
 #include "command_line/options.h"
 #include "command_line/typed_values.h"
 #include "people/people.h"
@@ -25,7 +26,7 @@ decltype(Request::question) flashQuestion(const Arguments& arguments) {
 decltype(Request::question) mixtureQuestion(const Arguments& arguments, const CLI::Option* substances) {
     const bool isNamed = substances->count() > 0;
     if (!arguments.dialog) {
-        if (!isNamed) refuse("Chybí povinný údaj --latky.\nNápověda: velor smes --help");
+        if (!isNamed) refuse(missingText("--latky"));
         return MixtureRequest{compositionOf(arguments), pressureOrNormal(arguments)};
     }
     if (isNamed || arguments.fractions || arguments.byMass || arguments.normalise)

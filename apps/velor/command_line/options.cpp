@@ -1,5 +1,6 @@
 #include "command_line/options.h"
 
+#include "command_line/help.h"
 #include "command_line/typed_values.h"
 #include "people/people.h"
 
@@ -10,9 +11,7 @@ namespace {
 constexpr double kNormalPressure = 101325;  // Pa
 constexpr double kUsualTemperature = 298.15;
 
-[[noreturn]] void refuse(const std::string& text) {
-    throw Failure(ExitCode::WrongUse, text + "\nNápověda: velor --help");
-}
+[[noreturn]] void refuse(const std::string& text) { throw Failure(ExitCode::WrongUse, text); }
 
 void requireNoCompositionFlags(const Arguments& arguments) {
     if (arguments.byMass) refuse("Přepínač --hmotove patří ke složení (--slozeni).");
@@ -22,7 +21,7 @@ void requireNoCompositionFlags(const Arguments& arguments) {
 MixturePropertyRequest mixtureRequest(const MixtureProperty& property, const Arguments& arguments) {
     MixturePropertyRequest request{&property, compositionOf(arguments), {}, pressureOf(arguments), arguments.clamp};
     if (property.needsPressure && !request.pressure)
-        refuse("Vlastnost " + std::string(property.code) + " potřebuje tlak: -P TLAK (v pascalech).");
+        refuse("Vlastnost " + std::string(property.code) + " potřebuje tlak: -P TLAK (v pascalech), např. -P 101325.");
     if (property.needsTemperature)
         request.temperatures = parseTemperatures(required(arguments.temperature, "--teplota"));
     return request;
@@ -82,7 +81,7 @@ std::string joinedSubstance(const Arguments& arguments) {
 }
 
 const std::string& required(const std::optional<std::string>& value, const std::string& option) {
-    if (!value) refuse("Chybí povinný údaj " + option + ".");
+    if (!value) refuse(missingText(option));
     return *value;
 }
 

@@ -1,3 +1,4 @@
+#include "command_line/help.h"
 #include "command_line/options.h"
 #include "people/people.h"
 #include "velor/text.h"
@@ -9,8 +10,7 @@ namespace {
 void requireProperty(const CLI::Option* property, const CLI::Option* substances) {
     for (const CLI::Option* option : {property, substances}) {
         const std::string name = option->get_positional() ? option->get_name(true) : option->get_name();
-        if (option->count() == 0)
-            throw Failure(ExitCode::WrongUse, "Chybí povinný údaj " + name + ".\nNápověda: velor vlastnost --help");
+        if (option->count() == 0) throw Failure(ExitCode::WrongUse, missingText(name));
     }
 }
 

@@ -17,22 +17,34 @@ namespace {
 
 std::string given(std::string_view text) { return ", zadáno: " + std::string(trimBlanks(text)) + "."; }
 
-}  // namespace
+// What a number is for: how the sentence begins that says that it is missing, and how the one ends that refuses a text.
+struct Field {
+    std::string_view place;
+    std::string_view advice;
+};
 
-double typedNumber(std::string_view text, std::string_view place) {
-    if (trimBlanks(text).empty()) refuse(std::string(place) + " chybí číslo.");
+constexpr Field kTemperature{"V zápisu teplot", "teplota se zadává v kelvinech bez jednotky, např. 298.15"};
+constexpr Field kPressure{"V zápisu tlaku", "tlak se zadává v pascalech bez jednotky, např. 101325"};
+constexpr Field kFraction{"V zápisu složení", "složení se zadává zlomky, např. 0.4,0.6"};
+constexpr Field kTimeLimit{"V časovém limitu", "limit se zadává v sekundách bez jednotky, např. 60"};
+
+// A text that is one finite number, with "," or "." as the decimal separator.
+double typedNumber(std::string_view text, const Field& field) {
+    if (trimBlanks(text).empty()) refuse(std::string(field.place) + " chybí číslo.");
     std::optional<double> value;
     try {
         value = parseWholeNumber(text);
     } catch (const RunTimeError&) {
         refuse("Číslo „" + std::string(text) + "“ je příliš velké.");
     }
-    if (!value) refuse("„" + std::string(text) + "“ není číslo (zapište např. 298.15).");
+    if (!value) refuse("„" + std::string(text) + "“ není číslo; " + std::string(field.advice) + ".");
     return *value;
 }
 
+}  // namespace
+
 double typedPressure(std::string_view text) {
-    const double P = typedNumber(text, "V zápisu tlaku");
+    const double P = typedNumber(text, kPressure);
     if (!(P > 0)) refuse("Tlak musí být kladný (v pascalech)" + given(text));
     return P;
 }
@@ -40,14 +52,15 @@ double typedPressure(std::string_view text) {
 std::vector<double> typedFractions(std::string_view text) {
     std::vector<double> fractions;
     for (const std::string& item : splitItems(text)) {
-        fractions.push_back(typedNumber(item, "V zápisu složení"));
+        fractions.push_back(typedNumber(item, kFraction));
         if (fractions.back() < 0) refuse("Zlomek ve složení nesmí být záporný" + given(item));
     }
     return fractions;
 }
 
 int typedCount(std::string_view text, std::string_view name, int least, int most) {
-    const double count = typedNumber(text, std::string("V zápisu: ").append(name));
+    const std::string place = std::string("V zápisu: ").append(name);
+    const double count = typedNumber(text, {place, "zadává se celým číslem, např. 21"});
     if (!(count >= least && count <= most) || count != static_cast<int>(count)) {
         refuse(std::string(name) + " musí být celé číslo od " + std::to_string(least) + " do " + std::to_string(most) +
                given(text));
@@ -56,7 +69,7 @@ int typedCount(std::string_view text, std::string_view name, int least, int most
 }
 
 double typedSeconds(std::string_view text) {
-    const double seconds = typedNumber(text, "V časovém limitu");
+    const double seconds = typedNumber(text, kTimeLimit);
     constexpr double kMost = 1e9;  // beyond any clock's trouble
     if (!(seconds > 0 && seconds <= kMost)) refuse("Časový limit musí být kladný počet sekund" + given(text));
     return seconds;
@@ -66,7 +79,7 @@ namespace {
 
 constexpr double kMostPoints = 10000;
 
-double number(std::string_view text) { return typedNumber(text, "V zápisu teplot"); }
+double number(std::string_view text) { return typedNumber(text, kTemperature); }
 
 double temperature(std::string_view text) {
     const double T = number(text);

@@ -6,10 +6,6 @@
 
 namespace velor::app {
 
-// A text that is one finite number, with "," or "." as the decimal separator; place begins the sentence that says it is
-// missing: "V zápisu teplot".
-double typedNumber(std::string_view text, std::string_view place);
-
 // A pressure in pascals, above 0.
 double typedPressure(std::string_view text);
 

@@ -29,13 +29,31 @@ Report propertyList() {
             "vlastnosti"};
 }
 
+namespace {
+
+// Those whose captions hold the text.
+std::vector<std::string_view> codesByCaption(std::string_view wanted) {
+    const std::string part = folded(wanted);
+    std::vector<std::string_view> codes;
+    for (const MixtureProperty& property : mixtureProperties())
+        if (!part.empty() && folded(property.caption).find(part) != std::string::npos) codes.push_back(property.code);
+    return codes;
+}
+
+std::string listed(const std::string& heading, const std::vector<std::string_view>& codes) {
+    std::string text;
+    for (const std::string_view code : codes) text.append(text.empty() ? heading : ", ").append(code);
+    return text.empty() ? text : text + ".";
+}
+
+}  // namespace
+
 const MixtureProperty& wantedProperty(std::string_view code) {
     if (const MixtureProperty* const property = findMixtureProperty(trimBlanks(code))) return *property;
-    std::string near;
-    for (const std::string_view other : nearCodes(code)) near.append(near.empty() ? "" : ", ").append(other);
-    std::string text = "Neznámá vlastnost „" + std::string(code) + "“.";
-    if (!near.empty()) text += " Podobné zkratky: " + near + ".";
-    throw Failure(ExitCode::WrongUse, text + "\nVšechny vypíše velor vlastnost --seznam");
+    std::string near = listed(" Podobné zkratky: ", nearCodes(code));
+    if (near.empty()) near = listed(" V popisu ji mají: ", codesByCaption(code));
+    throw Failure(ExitCode::WrongUse, "Neznámá vlastnost „" + std::string(code) + "“." + near +
+                                          "\nVšechny vypíše velor vlastnost --seznam");
 }
 
 }  // namespace velor::app

@@ -178,6 +178,7 @@ std::string script(const Picture& picture, bool isPng) {
             text += blockName(i, isSure) + " << END\n" + points + "END\n";
         }
     }
+    if (blocks.empty()) fail("Není co nakreslit: žádné dva sousední body nemají hodnotu.");
     return text + plotCommand(picture.curves, blocks);
 }
 
