@@ -42,21 +42,30 @@ std::string_view takeItem(std::string_view& text) {
     return item;
 }
 
+std::string pathIn(std::string_view content) {
+    takeItem(content);
+    return std::string(trimBlanks(takeItem(content)));
+}
+
+std::string contentFor(const std::string& databasePath) {
+    const bool quoted = databasePath.find(',') != std::string::npos;
+    const std::string_view quote = quoted ? "\"" : "";
+    return std::string(kComment).append(kLineBreak).append(quote).append(databasePath).append(quote).append(kLineBreak);
+}
+
 }  // namespace
+
+bool isConfigurable(const std::string& databasePath) { return pathIn(contentFor(databasePath)) == databasePath; }
 
 std::string readConfiguredPath(const std::string& configurationFile) {
     std::string content = platform::readText(configurationFile, kMostBytes);
     if (!content.starts_with(kByteOrderMark)) content = platform::fromSystemText(content);
-    std::string_view rest = content;
-    takeItem(rest);
-    return std::string(trimBlanks(takeItem(rest)));
+    return pathIn(content);
 }
 
 void writeConfiguredPath(const std::string& configurationFile, const std::string& databasePath) {
-    const bool quoted = databasePath.find(',') != std::string::npos;
-    const std::string_view quote = quoted ? "\"" : "";
-    const std::string content =
-        std::string(kComment).append(kLineBreak).append(quote).append(databasePath).append(quote).append(kLineBreak);
+    if (!isConfigurable(databasePath)) checked::raise(RunTimeError::kPathFileAccess);
+    const std::string content = contentFor(databasePath);
     // A path that the system's encoding cannot hold would name another file.
     const bool fits = platform::fromSystemText(platform::toSystemText(databasePath)) == databasePath;
     platform::replaceFile(configurationFile,

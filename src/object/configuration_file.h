@@ -9,7 +9,11 @@ namespace velor {
 // file; 62 when it ends before the second item.
 std::string readConfiguredPath(const std::string& configurationFile);
 
-// Writes the file anew. A path that holds a comma is written in quotes. Errors: 70, 75, 76.
+// Whether the path would read back as it is written: not with a comma and quotes, and not over several lines.
+bool isConfigurable(const std::string& databasePath);
+
+// Writes the file anew. A path that holds a comma is written in quotes. Errors: 70, 75 (one that would not read back,
+// too), 76.
 void writeConfiguredPath(const std::string& configurationFile, const std::string& databasePath);
 
 }  // namespace velor

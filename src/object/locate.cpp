@@ -1,5 +1,6 @@
 #include "object/locate.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "object/configuration_file.h"
@@ -41,14 +42,24 @@ void offerToDeleteConfiguration(const DatabasePlace& place, const Messages& mess
         platform::deleteFile(place.CFGPath + place.CFGName);
 }
 
-void offerToDeleteDatabase(const Messages& messages, const std::string& path, std::int64_t size) {
+std::string tooSmallText(const std::string& path, std::int64_t size) {
     // No blank stands between the path and "má", as built.
-    const std::string text = "Soubor " + path + "má příliš malou délku (" + std::to_string(size) + ") nebo je nulový." +
-                             kLineBreak + "Smazat ho ? (Y/N)";
+    return "Soubor " + path + "má příliš malou délku (" + std::to_string(size) + ") nebo je nulový.";
+}
+
+void offerToDeleteDatabase(const Messages& messages, const std::string& path, std::int64_t size) {
+    const std::string text = tooSmallText(path, size) + kLineBreak + "Smazat ho ? (Y/N)";
     if (show(messages, text, Icon::None, "VELOR", Buttons::YesNo) == Answer::Yes) platform::deleteFile(path);
 }
 
-void checkDatabase(DatabasePlace& place, const Messages& messages) {
+std::string extensionOf(const std::string& name) { return name.substr(std::min(name.rfind('.'), name.size())); }
+
+// A CFG file can give any file the database's name; it must not make the user delete one that is no database.
+bool mayOfferDeletion(const DatabasePlace& place, const std::string& usualName) {
+    return equalIgnoringCase(extensionOf(place.DataFileName), extensionOf(usualName));
+}
+
+void checkDatabase(DatabasePlace& place, const Messages& messages, const std::string& usualName) {
     const std::string entry = platform::fileName(place.AdresaBaze);
     if (entry.empty() || !equalIgnoringCase(entry, place.DataFileName)) {
         place.AdresaBaze.clear();
@@ -56,7 +67,13 @@ void checkDatabase(DatabasePlace& place, const Messages& messages) {
         return;
     }
     const std::int64_t size = platform::ReadOnlyFile(place.AdresaBaze).size();
-    if (size < kLeastDatabaseSize) offerToDeleteDatabase(messages, std::exchange(place.AdresaBaze, {}), size);
+    if (size >= kLeastDatabaseSize) return;
+    const std::string refused = std::exchange(place.AdresaBaze, {});
+    if (mayOfferDeletion(place, usualName)) {
+        offerToDeleteDatabase(messages, refused, size);
+    } else {
+        show(messages, tooSmallText(refused, size), Icon::None, "VELOR");
+    }
 }
 
 std::string searchVolumes(const DatabasePlace& place) {
@@ -110,8 +127,9 @@ void locateDatabase(DatabasePlace& place, const Messages& messages) {
             searchAndConfigure(place, messages);
             return;
         }
+        const std::string usualName = place.DataFileName;
         adoptOtherFileName(place);
-        checkDatabase(place, messages);
+        checkDatabase(place, messages, usualName);
     } catch (const RunTimeError& error) {
         show(messages, "Chyba č. " + std::to_string(error.number()) + " : " + error.description(), Icon::Exclamation,
              "VELOR Adrvlr");

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <limits>
 #include <string_view>
 
 #include "records/record_file.h"
@@ -45,7 +44,7 @@ Substance substanceOf(int number, const TLatka& record) {
 
 SubstanceList readSubstances(const std::string& databasePath) {
     const RecordFile file(databasePath);
-    const int count = std::min<int>(file.count(), std::numeric_limits<std::int16_t>::max());
+    const int count = file.count();
     SubstanceList substances;
     bool isDatabase = false;  // a file of another kind does not hold a record that knows its own number
     for (int number = 1; number <= count; ++number) {

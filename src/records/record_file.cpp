@@ -1,12 +1,18 @@
 #include "records/record_file.h"
 
+#include <algorithm>
 #include <array>
+#include <cstdint>
+#include <limits>
 
 #include "records/record_layout.h"
 
 namespace velor {
 
-int RecordFile::count() const { return static_cast<int>(file_.size() / static_cast<std::int64_t>(kRecordSize)); }
+int RecordFile::count() const {
+    constexpr std::int64_t kMost = std::numeric_limits<std::int16_t>::max();  // a record's own number holds no more
+    return static_cast<int>(std::min(file_.size() / static_cast<std::int64_t>(kRecordSize), kMost));
+}
 
 TLatka RecordFile::read(int number) const {
     std::array<char, kRecordSize> bytes{};

@@ -13,7 +13,7 @@ class RecordFile {
     // Opens for reading only. Errors: 53, 70, 75, 76.
     explicit RecordFile(const std::string& path) : file_(path) {}
 
-    // Whole records in the file.
+    // Whole records in the file, as far as there are numbers for them.
     int count() const;
     // Record number, counted from 1; a record of zero bytes where the file does not hold it whole.
     TLatka read(int number) const;

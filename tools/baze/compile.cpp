@@ -1,7 +1,5 @@
 #include "baze/compile.h"
 
-#include <algorithm>
-
 #include "baze/correlations_table.h"
 #include "baze/substances_table.h"
 #include "records/record_layout.h"
@@ -23,10 +21,6 @@ void addCorrelations(Substances& substances, const std::vector<CorrelationRow>& 
     }
 }
 
-void sortByLine(LineFaults& faults) {
-    std::stable_sort(faults.begin(), faults.end(), [](const auto& a, const auto& b) { return a.line < b.line; });
-}
-
 std::string databaseBytes(const std::map<int, TLatka>& records) {
     const auto blank = encodeRecord(blankRecord());
     std::string bytes;
@@ -40,10 +34,7 @@ std::string databaseBytes(const std::map<int, TLatka>& records) {
     return bytes;
 }
 
-}  // namespace
-
-Compilation compile(std::string_view substances, std::string_view correlations, Checks checks) {
-    Compilation result;
+void fill(Compilation& result, std::string_view substances, std::string_view correlations, Checks checks) {
     Substances read = readSubstances(substances, checks, result.substanceFaults);
     const auto rows = readCorrelations(correlations, checks, result.correlationFaults);
     addCorrelations(read, rows, result.correlationFaults);
@@ -51,12 +42,23 @@ Compilation compile(std::string_view substances, std::string_view correlations, 
     if (checks == Checks::Full && result.succeeded() && count < kLeastRecords)
         result.substanceFaults.push_back({1, "nejvyšší číslo látky má být aspoň " + std::to_string(kLeastRecords) +
                                                  ", kratší bázi knihovna nepřijme"});
-    sortByLine(result.substanceFaults);
-    sortByLine(result.correlationFaults);
-    if (!result.succeeded()) return result;
+    if (!result.succeeded()) return;
     result.bytes = databaseBytes(read.records);
     result.substances = static_cast<int>(read.records.size());
     result.correlations = static_cast<int>(rows.size());
+}
+
+}  // namespace
+
+Compilation compile(std::string_view substances, std::string_view correlations, Checks checks) {
+    Compilation result;
+    try {
+        fill(result, substances, correlations, checks);
+    } catch (const LineFaults::Full&) {
+        result.hasMoreFaults = true;
+    }
+    result.substanceFaults.sortByLine();
+    result.correlationFaults.sortByLine();
     return result;
 }
 

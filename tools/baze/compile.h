@@ -17,11 +17,12 @@ struct Compilation {
     int correlations = 0;
     LineFaults substanceFaults;  // by line
     LineFaults correlationFaults;
+    bool hasMoreFaults = false;  // than were kept: reading stopped there
 
     bool succeeded() const { return substanceFaults.empty() && correlationFaults.empty(); }
 };
 
-// Never stops at the first fault.
+// Does not stop at the first fault.
 Compilation compile(std::string_view substances, std::string_view correlations, Checks checks);
 
 }  // namespace velor::baze

@@ -1,17 +1,22 @@
 // velor-baze: the command line of the database compiler.
 #include <CLI/CLI.hpp>
+#include <csignal>
+#include <cstdint>
 #include <filesystem>
 #include <iostream>
 #include <memory>
+#include <new>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 #include "baze/compile.h"
 #include "baze/decompile.h"
 #include "object/configuration_file.h"  // the compiler writes the CFG file that the library reads
 #include "shared/files.h"
 #include "velor/run_time_error.h"
+#include "velor/text.h"
 
 namespace {
 
@@ -51,7 +56,19 @@ std::string inCzech(const RunTimeError& error) {
     }
 }
 
+// Far more than all substances that there are numbers for.
+constexpr std::uintmax_t kMostBytes = 64U << 20U;
+
+void requireModestSize(const std::string& path) {
+    std::error_code unknown;
+    const std::uintmax_t size = std::filesystem::file_size(systemPath(path), unknown);
+    if (!unknown && size > kMostBytes)
+        throw Failure(path + ": soubor má " + std::to_string(size) + " bajtů, přijímá se nejvýše " +
+                      std::to_string(kMostBytes));
+}
+
 std::string readFile(const std::string& path) {
+    requireModestSize(path);
     try {
         return velor::app::readFile(path);
     } catch (const RunTimeError& error) {
@@ -67,19 +84,30 @@ void writeFile(const std::string& path, std::string_view content) {
     }
 }
 
+std::string fullPath(const std::string& path) {
+    return utf8Path(std::filesystem::absolute(systemPath(path)).lexically_normal());
+}
+
+void requireConfigurable(const Task& task) {
+    if (!task.configuration.empty() && !velor::isConfigurable(fullPath(task.database)))
+        throw Failure(task.database + ": takovou cestu (uvozovky s čárkou, konec řádku) nelze zapsat do souboru CFG");
+}
+
 void writeConfiguration(const std::string& path, const std::string& database) {
     try {
-        velor::writeConfiguredPath(path, utf8Path(std::filesystem::absolute(systemPath(database)).lexically_normal()));
+        velor::writeConfiguredPath(path, fullPath(database));
     } catch (const RunTimeError& error) {
         throw Failure(path + ": " + inCzech(error));
     }
 }
 
 void report(const std::string& path, const velor::baze::LineFaults& faults) {
-    for (const auto& fault : faults) std::cerr << path << ':' << fault.line << ": " << fault.reason << '\n';
+    for (const auto& fault : faults)
+        std::cerr << velor::printable(path + ':' + std::to_string(fault.line) + ": " + fault.reason) << '\n';
 }
 
 int compile(const Task& task) {
+    requireConfigurable(task);
     const std::string substances = pathIn(task.folder, velor::baze::kSubstancesFile);
     const std::string correlations = pathIn(task.folder, velor::baze::kCorrelationsFile);
     const auto checks = task.formOnly ? velor::baze::Checks::FormOnly : velor::baze::Checks::Full;
@@ -89,6 +117,8 @@ int compile(const Task& task) {
     if (!result.succeeded()) {
         report(substances, result.substanceFaults);
         report(correlations, result.correlationFaults);
+        if (result.hasMoreFaults)
+            std::cerr << "Chyb je více než " << velor::baze::LineFaults::kMost << ", čtení skončilo.\n";
         return kFailed;
     }
     writeFile(task.database, result.bytes);
@@ -165,9 +195,11 @@ std::string inCzech(const CLI::ParseError& error, const CLI::App& app) {
     return "volba má mít právě jednu hodnotu";
 }
 
-}  // namespace
+int perform(const CLI::App& app, const Task& task) {
+    return app.got_subcommand("sestav") ? compile(task) : decompile(task);
+}
 
-int main(int argc, char** argv) {
+int run(int argc, char** argv) {
     Task task;
     CLI::App app("Překladač báze látek: text na VELOR.DRC a zpět");
     app.name("velor-baze");
@@ -179,18 +211,32 @@ int main(int argc, char** argv) {
     addDecompile(app, task);
     try {
         app.parse(argc, argv);
+        const int code = perform(app, task);
+        if (!(std::cout << std::flush)) throw Failure("velor-baze: výsledek se nepodařilo zapsat na výstup");
+        return code;
     } catch (const CLI::CallForHelp& help) {
         return app.exit(help);
     } catch (const CLI::ParseError& error) {
         std::cerr << "velor-baze: " << inCzech(error, app) << "\nNápověda: velor-baze --help\n";
         return kWrongCommandLine;
-    }
-    try {
-        return app.got_subcommand("sestav") ? compile(task) : decompile(task);
     } catch (const Failure& failure) {
-        std::cerr << failure.what() << '\n';
+        std::cerr << velor::printable(failure.what()) << '\n';
     } catch (const std::filesystem::filesystem_error&) {
-        std::cerr << task.folder << ": složku nelze založit nebo přečíst\n";
+        std::cerr << velor::printable(task.folder) << ": složku nelze založit nebo přečíst\n";
+    } catch (const std::bad_alloc&) {
+        std::cerr << "velor-baze: nedostatek paměti\n";
+    } catch (const std::exception& error) {
+        std::cerr << "velor-baze: neočekávaná chyba: " << velor::printable(error.what()) << '\n';
     }
     return kFailed;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+#ifdef SIGPIPE
+    // A reader that went away is an output that cannot be written, not a reason to be killed.
+    std::signal(SIGPIPE, SIG_IGN);
+#endif
+    return run(argc, argv);
 }

@@ -18,7 +18,9 @@ std::string version() {
 }
 
 OutputForm outputForm(const Arguments& arguments) {
-    if (arguments.csv && arguments.json) throw Failure(ExitCode::WrongUse, "Zvolte buď --csv, nebo --json.");
+    const bool isCsv = arguments.csv || arguments.safeCsv;
+    if (isCsv && arguments.json) throw Failure(ExitCode::WrongUse, "Zvolte buď --csv, nebo --json.");
+    if (arguments.safeCsv) return OutputForm::SafeCsv;
     if (arguments.csv) return OutputForm::Csv;
     return arguments.json ? OutputForm::Json : OutputForm::Text;
 }
@@ -93,6 +95,9 @@ void addCommonOptions(CLI::App* app, Arguments& arguments) {
         ->option_text("SEKUNDY")
         ->group(kOptions);
     app->add_flag("--csv", arguments.csv, "výstup jako CSV (oddělovač čárka, desetinná tečka)")->group(kOptions);
+    app->add_flag("--bezpecne-csv", arguments.safeCsv,
+                  "CSV pro tabulkový procesor: text, který by vzal za vzorec,\nzačíná apostrofem")
+        ->group(kOptions);
     app->add_flag("--json", arguments.json, "výstup jako JSON")->group(kOptions);
 }
 

@@ -34,6 +34,7 @@ struct Arguments {
     std::string database;
     std::string timeLimit = "60";
     bool csv = false;
+    bool safeCsv = false;
     bool json = false;
     CompletionRequest completion;
     decltype(Request::question) question;  // of the command given

@@ -52,7 +52,8 @@ std::string asJson(const Report& report) {
     Json document = Json::object();
     for (const Section& section : report.sections)
         document[section.key] = std::visit([](const auto& content) { return asJson(content); }, section.content);
-    return document.dump(2) + "\n";
+    // A file's name need not be UTF-8.
+    return document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
 }
 
 }  // namespace velor::app

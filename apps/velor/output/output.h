@@ -78,13 +78,15 @@ class StandingNotes {
 
 // ---- Their forms -------------------------------------------------------------------------------------------------
 
-enum class OutputForm { Text, Csv, Json };
+enum class OutputForm { Text, Csv, SafeCsv, Json };
 
 // Aligned columns for people; wide tables are continued below with the first column repeated.
 std::string asText(const Report& report);
 
-// Either the report's one table, or the lines "klic,popis,hodnota,jednotka" of all its values. Lines end in LF.
-std::string asCsv(const Report& report);
+// Either the report's one table, or the lines "klic,popis,hodnota,jednotka" of all its values. Lines end in LF. For a
+// worksheet a text that it would take for a formula begins with an apostrophe.
+enum class CsvReader { Program, Worksheet };
+std::string asCsv(const Report& report, CsvReader reader);
 
 // One object with a member per section: entries become an object, tables an array of objects.
 std::string asJson(const Report& report);
@@ -92,7 +94,9 @@ std::string asJson(const Report& report);
 inline std::string print(const Report& report, OutputForm form) {
     switch (form) {
         case OutputForm::Csv:
-            return asCsv(report);
+            return asCsv(report, CsvReader::Program);
+        case OutputForm::SafeCsv:
+            return asCsv(report, CsvReader::Worksheet);
         case OutputForm::Json:
             return asJson(report);
         case OutputForm::Text:

@@ -60,18 +60,27 @@ const Substance& findSubstance(const SubstanceList& substances, std::string_view
     return *candidates.front();
 }
 
+namespace {
+
+void requireAtMost(std::size_t most, std::size_t count) {
+    if (count <= most) return;
+    throw Failure(ExitCode::WrongUse, "Zadáno " + std::to_string(count) + " látek; nejvýše jich může být " +
+                                          std::to_string(kMostComponents) + ".");
+}
+
+}  // namespace
+
 SubstanceList findSubstances(const SubstanceList& substances, std::string_view wanted) {
+    constexpr std::size_t kMostItems = 8 * kMostComponents;  // by which commas within names are allowed for
+    requireAtMost(kMostItems, splitItems(wanted).size());
+    const std::vector<std::string> names = splitSubstanceNames(substances, wanted);
+    requireAtMost(kMostComponents, names.size());
     SubstanceList found;
-    for (const std::string& name : splitSubstanceNames(substances, wanted)) {
+    for (const std::string& name : names) {
         const Substance& substance = findSubstance(substances, name);
-        const bool isKnown = std::any_of(found.begin(), found.end(),
-                                         [&](const Substance& other) { return other.number == substance.number; });
-        if (isKnown) throw Failure(ExitCode::WrongUse, "Látka " + substance.name + " je zadána dvakrát.");
+        if (findByNumber(found, substance.number))
+            throw Failure(ExitCode::WrongUse, "Látka " + substance.name + " je zadána dvakrát.");
         found.push_back(substance);
-    }
-    if (found.size() > kMostComponents) {
-        throw Failure(ExitCode::WrongUse, "Zadáno " + std::to_string(found.size()) + " látek; nejvýše jich může být " +
-                                              std::to_string(kMostComponents) + ".");
     }
     return found;
 }
