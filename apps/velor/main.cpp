@@ -34,12 +34,12 @@ Report reportOn(const PropertyListRequest&, const Request&, PatientUserInterface
 
 template <class Question>
 Report reportOn(const Question& question, const Request& request, PatientUserInterface& userInterface) {
-    return answer(question, openDatabase(request.database, userInterface), userInterface);
+    return answer(question, openDatabase(request.database), userInterface);
 }
 
 // Whoever reads the whole list on a terminal leafs through it.
 Report reportOn(const SubstanceListRequest& question, const Request& request, PatientUserInterface& user) {
-    const Database database = openDatabase(request.database, user);
+    const Database database = openDatabase(request.database);
     if (!user.isOnScreen() || !canBrowse(database)) return answer(question, database, user);
     browse(question, database, user);
     return {};
@@ -48,7 +48,7 @@ Report reportOn(const SubstanceListRequest& question, const Request& request, Pa
 // Whether to flash the mixture is decided with its overview before one's eyes: people read it at once, on a terminal in
 // the box that asks and once more in the end. A program gets both as one document.
 Report reportOn(const MixtureDialogRequest& question, const Request& request, PatientUserInterface& user) {
-    const Database database = openDatabase(request.database, user);
+    const Database database = openDatabase(request.database);
     const Mixture mixture = askMixture(database, user);
     Report report = describeMixture(mixture, question.pressure);
     const bool isRead = request.form == OutputForm::Text;

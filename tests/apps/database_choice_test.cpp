@@ -26,12 +26,9 @@ TEST(DatabaseChoiceTest, aLonelyCommandSearchesNothingBySurprise) {
     expectMentions(lonely.error, "--baze");
 
     const std::string configuration = folder.write("VELOR.CFG", "poznamka\r\n/nikde/VELOR.DRC\r\n");
-    const Outcome kept = run({"latka", "1"}, program);  // nobody answers the library's question
-    expectFailure(kept, 3, "obsahuje odkaz na neexistující soubor VELOR.DRC");
-    expectMentions(kept.error, configuration + " nevede k použitelné databázi");
+    // The library's offer to delete the file is not passed on, whatever is typed.
+    expectFailure(run({"latka", "1"}, program, "a\n"), 3, configuration + " nevede k použitelné databázi");
     EXPECT_TRUE(std::filesystem::exists(configuration));
-    run({"latka", "1"}, program, "a\n");
-    EXPECT_FALSE(std::filesystem::exists(configuration));
 }
 
 }  // namespace

@@ -18,7 +18,7 @@ TEST_F(OutputTest, csvIsOneTableOfExactNumbers) {
 }
 
 TEST_F(OutputTest, textIsAlignedByCharacters) {
-    EXPECT_EQ(database.run(words("vlastnost sigma --latky 4,10,2 -T 300,450")).out,
+    EXPECT_EQ(database.run(words("vlastnost sigma --latky 4,10,2 -T 300;450")).out,
               "Látky\n"
               "  č.  látka            vzorec  Tmin [K]  Tmax [K]  typ  vztah\n"
               "   4  Kyselina octová  C2H4O2       200       400    1  y = A1 + A2.T   přímka\n"

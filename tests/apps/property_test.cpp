@@ -74,7 +74,7 @@ TEST_F(PropertyTest, temperaturesThatAreNoneAreRefused) {
         {"300:400", "OD:DO:KROK"}, {"300:400:10:5", "OD:DO:KROK"}, {"300:400:0", "nesmí být nula"},
         {"300:400:-10", "nevede od teploty 300 K k 400 K"}, {"400:300:10", "nevede od teploty 400 K k 300 K"},
         {"-10:300:10", "musí být kladná"}, {"1:10001:1", "nejvýše jich může být 10000"},
-        {"1:1e300:1e-300", "nejvýše jich může být 10000"}};
+        {"1:1e300:1e-300", "nejvýše jich může být 10000"}, {"298,15", "jednu zapište 298.15, dvě 298;15"}};
     // clang-format on
     for (const auto& [text, phrase] : cases) expectFailure(vlastnost("ETAG", "2", text), 2, phrase);
 }

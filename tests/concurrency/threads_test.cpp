@@ -6,6 +6,7 @@
 #include <thread>
 #include <vector>
 
+#include "platform/system.h"
 #include "velor/smes.h"
 
 namespace velor {
@@ -50,6 +51,10 @@ Answers work() {
         askProperties(smes, Fractions({0.2, 0.5, 0.3}), answers);
     }
     for (const Message& message : boxes.messages) answers.push_back(message.text);
+    for (const std::string& volume : platform::volumes()) answers.push_back(volume);  // where a database is searched
+    Variant hits;
+    smes.FindFiles(VELOR_PROGRAMS, "*", "VELOR.DRC", hits);
+    answers.push_back(hits);
     return answers;
 }
 

@@ -67,6 +67,38 @@ TEST(CatalogueTest, aMissingCorrelationIsNamed) {
     }
 }
 
+// Where a value means less than its number says, or nothing.
+TEST(CatalogueTest, theVerdictKnowsWhatTheStateIs) {
+    constexpr int kHydrogen = 1333740, kNitrogen = 7727379, kSteam = 7732185;
+    struct Case {
+        std::vector<int> substances;
+        const char* code;
+        double T, P;
+        Standing standing;
+    };
+    const Case cases[] = {
+        {{kSteam, kHydrogen},
+         "TRB",
+         0,
+         101325,
+         Standing::Diverged},  // rests at 0.95 of hydrogen's critical temperature
+        {{kSteam, kNitrogen}, "DHV", 350, 0, Standing::LeftOut},
+        {{kSteam}, "RROGW", 300, 1e5, Standing::Metastable},
+        {{kSteam}, "RROGW", 400, 1e5, Standing::InRange},
+        {{kSteam, kNitrogen}, "RHG", 370, 1e5, Standing::InRange},  // half the pressure is nitrogen's
+        {{kSteam}, "ROLW", 25, 0, Standing::Failed},                // the equation gives a negative density
+        {{108883}, "RUG", 500, 1e5, Standing::InRange},
+    };
+    for (const Case& point : cases) {
+        RealMixture object(point.substances);
+        object.smes.Inivlr();
+        const std::vector<double> parts(point.substances.size(), 1.0 / static_cast<double>(point.substances.size()));
+        const MixtureVerdict verdict =
+            mixtureValue(object.smes, *findMixtureProperty(point.code), point.T, point.P, Fractions(parts));
+        EXPECT_EQ(standingWord(verdict.result.standing), standingWord(point.standing)) << point.code << point.T;
+    }
+}
+
 TEST(CatalogueTest, captionsHaveTheirPlaces) {
     Smes smes;
     smes.inivlast();

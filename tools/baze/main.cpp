@@ -211,9 +211,7 @@ int run(int argc, char** argv) {
     addDecompile(app, task);
     try {
         app.parse(argc, argv);
-        const int code = perform(app, task);
-        if (!(std::cout << std::flush)) throw Failure("velor-baze: výsledek se nepodařilo zapsat na výstup");
-        return code;
+        return perform(app, task);
     } catch (const CLI::CallForHelp& help) {
         return app.exit(help);
     } catch (const CLI::ParseError& error) {
@@ -238,5 +236,8 @@ int main(int argc, char** argv) {
     // A reader that went away is an output that cannot be written, not a reason to be killed.
     std::signal(SIGPIPE, SIG_IGN);
 #endif
-    return run(argc, argv);
+    const int code = run(argc, argv);
+    if (std::cout << std::flush) return code;
+    std::cerr << "velor-baze: výsledek se nepodařilo zapsat na výstup\n";
+    return kFailed;
 }

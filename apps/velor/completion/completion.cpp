@@ -194,8 +194,7 @@ class Completer {
         Names words;
         for (const TypedWord& word : line_.before()) words.push_back(word.text);
         std::ranges::move(shellWords(behind_), std::back_inserter(words));
-        RecordingUserInterface silence;
-        return openDatabase(namedDatabase(words), silence);
+        return openDatabase(namedDatabase(words));
     }
 
     TypedLine line_;

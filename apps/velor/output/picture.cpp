@@ -89,15 +89,20 @@ bool endsIn(std::string_view name, std::string_view ending) {
     return name.size() > ending.size() && equalIgnoringCase(name.substr(name.size() - ending.size()), ending);
 }
 
-// A text of gnuplot's that nothing is interpreted in: whatever is no letter, digit or blank stands by its code.
+std::string code(unsigned char byte) {
+    const char digits[] = {'\\', static_cast<char>('0' + byte / 64), static_cast<char>('0' + byte / 8 % 8),
+                           static_cast<char>('0' + byte % 8)};
+    return {digits, sizeof digits};
+}
+
+// A text of gnuplot's that nothing is interpreted in: what is no letter or blank stands by its octal code,
+// digits as well, because gnuplot would read them as part of a code before them.
 std::string literal(std::string_view text) {
     std::string result = "\"";
     for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c);
-        const bool isPlain = byte >= 0x80 || std::isalnum(byte) != 0 || c == ' ';
-        char code[5];
-        std::snprintf(code, sizeof code, "\\%03o", byte);
-        result += isPlain ? std::string(1, c) : code;
+        const bool isPlain = byte >= 0x80 || std::isalpha(byte) != 0 || c == ' ';
+        result += isPlain ? std::string(1, c) : code(byte);
     }
     return result + "\"";
 }

@@ -12,8 +12,10 @@ namespace {
 
 constexpr const char* kAdvice = " Databázi lze zadat přepínačem --baze SOUBOR.";
 
-std::string configuredPath(UserInterface& userInterface) {
-    Smes smes(userInterface);
+// Nobody is asked: the library would offer to delete the file that leads nowhere.
+std::string configuredPath() {
+    RecordingUserInterface silence;
+    Smes smes(silence);
     const std::string configuration = smes.CFGPath() + smes.CFGName();
     std::error_code unknown;
     if (!std::filesystem::is_regular_file(systemPath(configuration), unknown)) {
@@ -24,7 +26,8 @@ std::string configuredPath(UserInterface& userInterface) {
     const std::string path = smes.AdrVELOR();
     if (path.empty()) {
         throw Failure(ExitCode::NoDatabase,
-                      "Soubor " + configuration + " nevede k použitelné databázi látek." + kAdvice);
+                      "Soubor " + configuration +
+                          " nevede k použitelné databázi látek. Opravte cestu na jeho druhém řádku." + kAdvice);
     }
     return path;
 }
@@ -48,9 +51,9 @@ bool isRefusedAccess(const RunTimeError& error) {
 
 }  // namespace
 
-Database openDatabase(const std::optional<std::string>& chosenPath, UserInterface& userInterface) {
+Database openDatabase(const std::optional<std::string>& chosenPath) {
     Database database;
-    database.path = chosenPath ? *chosenPath : configuredPath(userInterface);
+    database.path = chosenPath ? *chosenPath : configuredPath();
     database.substances = substancesOf(database.path);
     if (database.substances.empty())
         throw Failure(ExitCode::NoDatabase, "Soubor „" + database.path + "“ není databáze látek.");

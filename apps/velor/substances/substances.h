@@ -24,7 +24,7 @@ struct Database {
 
 // Opens the database chosen by the user or else the one that VELOR.CFG beside the program names. Without that file
 // nothing is searched: Failure(NoDatabase) says where a database was expected.
-Database openDatabase(const std::optional<std::string>& chosenPath, UserInterface& userInterface);
+Database openDatabase(const std::optional<std::string>& chosenPath);
 
 // Builds the library's list of the substances, which is also written to SEZNAM.DAT beside the database. Where that may
 // not be done the list in memory is complete all the same. Failure(NothingComputed): the database cannot be listed.
