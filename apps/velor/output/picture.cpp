@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
 #include <cerrno>
 #include <cmath>
 #include <csignal>
@@ -101,8 +100,8 @@ std::string literal(std::string_view text) {
     std::string result = "\"";
     for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c);
-        const bool isPlain = byte >= 0x80 || std::isalpha(byte) != 0 || c == ' ';
-        result += isPlain ? std::string(1, c) : code(byte);
+        const bool isLetter = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || byte >= 0x80;
+        result += isLetter || c == ' ' ? std::string(1, c) : code(byte);
     }
     return result + "\"";
 }
