@@ -8,9 +8,9 @@
 
 int main() {
     velor::Smes mixture;
-    // Where the database lies, this file says; without it the first use would search every disk.
+    // Where the database lies, this file says; without it the first use would search every disk. Paths are UTF-8.
     const std::string configuration = mixture.CFGPath() + mixture.CFGName();
-    if (!std::filesystem::exists(configuration)) {
+    if (!std::filesystem::exists(std::u8string(configuration.begin(), configuration.end()))) {
         std::cerr << "there is no " << configuration << "; its second line is to be the path of VELOR.DRC\n";
         return 1;
     }
