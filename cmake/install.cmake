@@ -25,18 +25,24 @@ file(RELATIVE_PATH prefix_from_pkgconfig /${CMAKE_INSTALL_LIBDIR}/pkgconfig /)
 configure_file(${CMAKE_CURRENT_LIST_DIR}/velor.pc.in ${PROJECT_BINARY_DIR}/velor.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/velor.pc DESTINATION ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
 
+# All that the installation takes, for those who do not build the tests.
+add_custom_target(installed_parts DEPENDS velor velor_static)
+
 if(VELOR_BUILD_COMMAND)
+    add_dependencies(installed_parts velor_command)
     install(TARGETS velor_command RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
     install(FILES ${PROJECT_SOURCE_DIR}/apps/velor/velor.bash RENAME velor
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
     # Under man1 too, where it is found in every locale.
     if(TARGET velor_manual)
+        add_dependencies(installed_parts velor_manual)
         foreach(folder cs/man1 man1)
             install(FILES ${PROJECT_BINARY_DIR}/velor.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/${folder})
         endforeach()
     endif()
 endif()
 if(VELOR_BUILD_DATABASE)
+    add_dependencies(installed_parts velor-baze velor_database)
     install(TARGETS velor-baze RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
     foreach(folder cs/man1 man1)
         install(FILES ${PROJECT_SOURCE_DIR}/tools/baze/velor-baze.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/${folder})

@@ -3,10 +3,17 @@
 #include <velor/smes.h>
 
 #include <cmath>
+#include <filesystem>
 #include <iostream>
 
 int main() {
     velor::Smes mixture;
+    // Where the database lies, this file says; without it the first use would search every disk. Paths are UTF-8.
+    const std::string configuration = mixture.CFGPath() + mixture.CFGName();
+    if (!std::filesystem::exists(std::u8string(configuration.begin(), configuration.end()))) {
+        std::cerr << "there is no " << configuration << "; its second line is to be the path of VELOR.DRC\n";
+        return 1;
+    }
     mixture.DefSlozky(velor::List({235, 1}));
     if (mixture.Inivlr().toInt16() != 2) return 1;
     const velor::Variant fractions = velor::Fractions({0.4, 0.6});

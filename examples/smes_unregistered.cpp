@@ -38,7 +38,11 @@ HRESULT report(ISmes& smes, const wchar_t* database) {
 }  // namespace
 
 int wmain(int argc, wchar_t** argv) {
-    if (argc < 2 || FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) return 1;
+    if (argc < 2 || GetFileAttributesW(argv[1]) == INVALID_FILE_ATTRIBUTES) {
+        std::cerr << "Chybi databaze: prvni argument je cesta k VELOR.DRC.\n";
+        return 1;
+    }
+    if (FAILED(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED))) return 1;
     ISmes* smes = nullptr;
     HRESULT result = createSmes(&smes);
     if (SUCCEEDED(result)) {

@@ -18,9 +18,9 @@ goto options
 :begin
 set "tool64="
 set "tool32="
-rem A 32-bit cmd sees the 64-bit tools as Sysnative.
-if "%PROCESSOR_ARCHITECTURE%"=="AMD64" set "tool64=%SystemRoot%\System32\regsvr32.exe"
-if "%PROCESSOR_ARCHITEW6432%"=="AMD64" set "tool64=%SystemRoot%\Sysnative\regsvr32.exe"
+rem The system's own 64-bit tool is not used: on ARM it loads no DLL for x64. Ours runs there by emulation.
+for %%a in (AMD64 ARM64) do if "%PROCESSOR_ARCHITECTURE%"=="%%a" set "tool64=%folder%x64\register.exe"
+for %%a in (AMD64 ARM64) do if "%PROCESSOR_ARCHITEW6432%"=="%%a" set "tool64=%folder%x64\register.exe"
 if exist "%SystemRoot%\SysWOW64\regsvr32.exe" set "tool32=%SystemRoot%\SysWOW64\regsvr32.exe"
 if "%PROCESSOR_ARCHITECTURE%%PROCESSOR_ARCHITEW6432%"=="x86" set "tool32=%SystemRoot%\System32\regsvr32.exe"
 
@@ -39,7 +39,11 @@ exit /b %status%
 :version
 if "%~3"=="" goto unsuitable
 set "dll=%folder%%1\velor.dll"
-if not exist "%dll%" goto missing
+set "missing="
+if not exist "%dll%" set "missing=%dll%"
+if not defined remove if not exist "%folder%%1\VELOR.DRC" set "missing=%folder%%1\VELOR.DRC"
+if not exist "%~3" set "missing=%~3"
+if defined missing goto missing
 rem Where the folder was moved, the old path would mislead.
 if exist "%folder%%1\VELOR.CFG" del "%folder%%1\VELOR.CFG"
 "%~3" /s %remove% "%dll%"
@@ -67,7 +71,7 @@ exit /b
 
 :missing
 echo %2bitová verze: chybí soubor
-echo   "%dll%"
+echo   "%missing%"
 echo   Rozbalte celý balíček do složky a spusťte příkaz z ní.
 set "status=1"
 exit /b

@@ -19,6 +19,15 @@ add_custom_command(OUTPUT ${import_library}
     WORKING_DIRECTORY ${PROJECT_BINARY_DIR} # its names get into the library
     VERBATIM)
 add_custom_target(windows_parts DEPENDS velor_com velor_static ${import_library})
+if(is_x64)
+    add_executable(velor_register EXCLUDE_FROM_ALL ${CMAKE_CURRENT_LIST_DIR}/register.cpp)
+    target_compile_definitions(velor_register PRIVATE UNICODE)
+    target_link_libraries(velor_register PRIVATE velor_warnings)
+    target_link_options(velor_register PRIVATE -municode -s LINKER:--no-insert-timestamp)
+    set_target_properties(velor_register PROPERTIES OUTPUT_NAME register)
+    add_dependencies(windows_parts velor_register)
+    install(TARGETS velor_register RUNTIME DESTINATION ${folder})
+endif()
 
 set(generated ${PROJECT_BINARY_DIR}/src/com/generated)
 install(FILES $<TARGET_FILE:velor_com> $<TARGET_FILE:velor_static> ${generated}/velor.tlb ${import_library}

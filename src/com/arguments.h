@@ -24,6 +24,13 @@ struct Argument<short> {
 };
 
 template <>
+struct Argument<float> {
+    float value;
+    explicit Argument(float raw) : value(raw) {}
+    void giveBack() {}
+};
+
+template <>
 struct Argument<BSTR> {
     std::string value;
     explicit Argument(BSTR raw) : value(toText(raw)) {}

@@ -116,10 +116,10 @@ class SmesObject final : public ISmes, public ISupportErrorInfo {
     STDMETHODIMP MezeZap() override { return run(&Smes::MezeZap); }
     STDMETHODIMP MezeVyp() override { return run(&Smes::MezeVyp); }
     STDMETHODIMP get_MezeTeplot(short* result) override { return answer(result, &Smes::MezeTeplot); }
-    STDMETHODIMP get_VLRConst(short i, short k, short j, VARIANT* result) override {
+    STDMETHODIMP get_VLRConst(short i, short k, short j, float* result) override {
         return answer(result, kVLRConst, i, k, j);
     }
-    STDMETHODIMP put_VLRConst(short i, short k, short j, VARIANT value) override {
+    STDMETHODIMP put_VLRConst(short i, short k, short j, float value) override {
         return run(kVLRConst, i, k, j, value);
     }
 
@@ -136,8 +136,8 @@ class SmesObject final : public ISmes, public ISupportErrorInfo {
     STDMETHODIMP get_Nsloz(VARIANT* result) override { return answer(result, kNsloz); }
     STDMETHODIMP put_Nsloz(VARIANT value) override { return run(kNsloz, value); }
     STDMETHODIMP Nslozky(short i, VARIANT* result) override { return answer(result, &Smes::Nslozky, i); }
-    STDMETHODIMP get_Bod(short i, short k, VARIANT* result) override { return answer(result, kBod, i, k); }
-    STDMETHODIMP put_Bod(short i, short k, VARIANT value) override { return run(kBod, i, k, value); }
+    STDMETHODIMP get_Bod(short i, short k, float* result) override { return answer(result, kBod, i, k); }
+    STDMETHODIMP put_Bod(short i, short k, float value) override { return run(kBod, i, k, value); }
     STDMETHODIMP Inivlr(VARIANT* result) override { return answer(result, &Smes::Inivlr); }
 
     STDMETHODIMP Mvi(short i, VARIANT* result) override { return answer(result, &Smes::Mvi, i); }

@@ -40,10 +40,12 @@ for part in x64/velor.dll x86/velor.dll x64/velor.tlb x86/velor.lib prirucka.htm
 done
 
 # Nothing is left of what cannot be finished.
-mv "$folder/x64/velor.dll" "$work"
-answer=$(script install) && fail "nainstalováno bez velor.dll"
-says "64bitová verze: chybí soubor" "$place\\x64\\velor.dll" "Nedokončeno."
-mv "$work/velor.dll" "$folder/x64"
+for part in velor.dll VELOR.DRC; do
+    mv "$folder/x64/$part" "$work"
+    answer=$(script install) && fail "nainstalováno bez $part"
+    says "64bitová verze: chybí soubor" "$place\\x64\\$part" "Nedokončeno."
+    mv "$work/$part" "$folder/x64"
+done
 
 answer=$(script install) || fail "$answer"
 says "64bitová verze je zaregistrována pro všechny uživatele:" "\"$place\\x64\\velor.dll\"" \

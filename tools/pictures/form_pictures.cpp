@@ -45,6 +45,8 @@ void chooseComponents() {
         form.expectFocus(++box);
     }
     picture("F_Seznam");
+    form.type(SEZNAM_HLEDAT, "mraven");
+    picture("F_Seznam-search");
     form.click(SEZNAM_C_OK);
 }
 

@@ -65,6 +65,10 @@ bool isFolder(const std::wstring& path) {
     return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+bool isFile(const std::wstring& path) {
+    return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES && !isFolder(path);
+}
+
 HANDLE openForReading(const std::string& path) {
     const QuietDrives quiet;
     const std::wstring name = widePath(path);
@@ -99,17 +103,20 @@ void writeAll(HANDLE file, std::string_view content) {
     if (!FlushFileBuffers(file)) checked::raise(RunTimeError::kPathFileAccess);
 }
 
+// Null where it fails; GetLastError tells why.
+File openForWriting(const std::wstring& name, DWORD how) {
+    const HANDLE file = CreateFileW(name.c_str(), GENERIC_WRITE, 0, nullptr, how, FILE_ATTRIBUTE_NORMAL, nullptr);
+    return File(file == INVALID_HANDLE_VALUE ? nullptr : file);
+}
+
 // A new file beside the one that it will replace, gone with the object unless it was moved there. Its name belongs to
 // this thread, so that what a killed program left behind under it may be written over.
 class Replacement {
   public:
     explicit Replacement(const std::wstring& path)
         : name_(path + L"." + std::to_wstring(GetCurrentProcessId()) + L"-" + std::to_wstring(GetCurrentThreadId())),
-          file_(CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr)) {
-        if (file_.get() != INVALID_HANDLE_VALUE) return;
-        file_.release();
-        raiseFileError(GetLastError());
-    }
+          file_(openForWriting(name_, CREATE_ALWAYS)),
+          error_(file_ ? ERROR_SUCCESS : GetLastError()) {}
     ~Replacement() {
         file_.reset();
         DeleteFileW(name_.c_str());
@@ -117,6 +124,8 @@ class Replacement {
     Replacement(const Replacement&) = delete;
     Replacement& operator=(const Replacement&) = delete;
 
+    // Why the file could not be made.
+    DWORD error() const { return error_; }
     HANDLE file() const { return file_.get(); }
     // The file closed, its name.
     const std::wstring& closed() {
@@ -127,7 +136,15 @@ class Replacement {
   private:
     std::wstring name_;
     File file_;
+    DWORD error_;
 };
+
+// Where the folder takes no new file there is no other way.
+void overwrite(const std::wstring& name, std::string_view content) {
+    const File file = openForWriting(name, TRUNCATE_EXISTING);
+    if (!file) raiseFileError(GetLastError());
+    writeAll(file.get(), content);
+}
 
 void moveOver(const std::wstring& from, const std::wstring& to) {
     // Readers, virus scanners and indexers hold a file for moments.
@@ -147,6 +164,30 @@ void moveOver(const std::wstring& from, const std::wstring& to) {
 bool leadsElsewhere(const WIN32_FIND_DATAW& entry) {
     return (entry.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
            IsReparseTagNameSurrogate(entry.dwReserved0) != 0;
+}
+
+bool isLink(const std::wstring& name) {
+    WIN32_FIND_DATAW entry{};
+    const HANDLE search = FindFirstFileW(name.c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) return false;
+    const Enumeration closing(search);
+    return leadsElsewhere(entry);
+}
+
+// The file that the path means in the end. A link to nothing gets the file that it would lead to; a circle of links is
+// an error.
+std::wstring behindLinks(const std::wstring& name) {
+    if (!isLink(name)) return name;
+    const HANDLE opened =
+        CreateFileW(name.c_str(), FILE_READ_ATTRIBUTES, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, nullptr,
+                    OPEN_ALWAYS, FILE_FLAG_BACKUP_SEMANTICS, nullptr);
+    if (opened == INVALID_HANDLE_VALUE) raiseFileError(GetLastError());
+    const File file(opened);
+    std::wstring target(GetFinalPathNameByHandleW(file.get(), nullptr, 0, FILE_NAME_NORMALIZED), L'\0');
+    target.resize(
+        GetFinalPathNameByHandleW(file.get(), target.data(), static_cast<DWORD>(target.size()), FILE_NAME_NORMALIZED));
+    if (target.empty()) raiseFileError(GetLastError());
+    return target;
 }
 
 }  // namespace
@@ -198,8 +239,10 @@ void deleteFile(const std::string& path) {
 
 void replaceFile(const std::string& path, std::string_view content) {
     const QuietDrives quiet;
-    const std::wstring name = widePath(path);
+    const std::wstring name = behindLinks(widePath(path));
     Replacement replacement(name);
+    if (replacement.error() == ERROR_ACCESS_DENIED && isFile(name)) return overwrite(name, content);
+    if (replacement.error() != ERROR_SUCCESS) raiseFileError(replacement.error());
     writeAll(replacement.file(), content);
     moveOver(replacement.closed(), name);
 }

@@ -167,31 +167,15 @@ void Button::accelerate(char32_t letter) {
 // ---- List --------------------------------------------------------------------------------------------------------
 
 List::List(const std::vector<std::string>& items, int selected, std::function<void(int index)> changed)
-    : items_(items), changed_(std::move(changed)), current_(std::max(0, selected)) {
-    for (const std::string& item : items_) folded_.push_back(folded(item));
+    : items_(items), changed_(std::move(changed)), search_(items), current_(std::max(0, selected)) {
     search({});
 }
 
 void List::search(const std::string& text) {
     searched_ = text;
-    const std::string wanted = folded(text);
-    shown_.clear();
-    for (std::size_t i = 0; i < folded_.size(); ++i)
-        if (folded_[i].find(wanted) != std::string::npos) shown_.push_back(static_cast<int>(i));
+    shown_ = search_.holding(text);
     if (text.empty() && position() >= 0) return;
-    moveTo(bestPosition(wanted));
-}
-
-// Whoever types a name means the line that begins with it; a number may stand before it.
-int List::bestPosition(const std::string& wanted) const {
-    const auto begins = [&](int index) {
-        const std::string& line = folded_[static_cast<std::size_t>(index)];
-        const std::size_t blank = std::min(line.find(' '), line.size());
-        const std::size_t name = std::min(line.find_first_not_of(' ', blank), line.size());
-        return line.starts_with(wanted) || line.compare(name, wanted.size(), wanted) == 0;
-    };
-    const auto best = std::find_if(shown_.begin(), shown_.end(), begins);
-    return best == shown_.end() ? 0 : static_cast<int>(best - shown_.begin());
+    moveTo(static_cast<int>(search_.bestOf(shown_, text)));
 }
 
 int List::position() const {

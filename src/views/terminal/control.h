@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "views/line_search.h"
 #include "views/terminal/canvas.h"
 
 namespace velor::terminal {
@@ -119,13 +120,12 @@ class List : public Control {
   private:
     void moveTo(int position);
     int position() const;  // of the selected item among those shown; -1 where it is not
-    int bestPosition(const std::string& wanted) const;
     void pick();
 
     const std::vector<std::string>& items_;
     std::function<void(int)> changed_;
-    std::vector<std::string> folded_;  // the items as they are searched
-    std::vector<int> shown_;           // indices of the items that hold the searched text
+    LineSearch search_;
+    std::vector<int> shown_;  // indices of the items that hold the searched text
     std::string searched_;
     bool isSearchDone_ = false;  // an item was picked: the next letter begins another search
     int current_;                // index of the selected item

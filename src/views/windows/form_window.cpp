@@ -70,6 +70,8 @@ int releasedButton(UINT message) {
     }
 }
 
+bool isMoveThroughLines(WPARAM key) { return key == VK_UP || key == VK_DOWN || key == VK_PRIOR || key == VK_NEXT; }
+
 }  // namespace
 
 void FormWindow::show(HWND owner) {
@@ -217,6 +219,10 @@ bool FormWindow::handleInControl(HWND control, UINT message, WPARAM wParam) {
             return false;
         case WM_KEYDOWN:
             if (wParam == VK_F2 || wParam == VK_F3) perform([&] { functionKeyPressed(id, wParam); });
+            if (listMovedFrom(id) != 0 && isMoveThroughLines(wParam)) {
+                SendMessageW(this->control(listMovedFrom(id)), message, wParam, 0);
+                return true;
+            }
             if (wParam != VK_RETURN || !takesEnter(id)) return false;
             perform([&] { keyPressed(id, kEnterKey); });
             return true;
@@ -247,13 +253,13 @@ void FormWindow::useFont(HWND control, const LOGFONTW& description) {
     fonts_[control] = std::move(font);
 }
 
-void FormWindow::useFixedPitch(int list, std::string_view face) {
+void FormWindow::useFixedPitch(int id, std::string_view face) {
     LOGFONTW font{};
     font.lfHeight = -MulDiv(kListPoints, static_cast<int>(dpi_), kPointsPerInch);
     font.lfCharSet = EASTEUROPE_CHARSET;
     font.lfPitchAndFamily = FIXED_PITCH | FF_MODERN;
     lstrcpynW(font.lfFaceName, platform::toWide(face).c_str(), LF_FACESIZE);
-    useFont(control(list), font);
+    useFont(control(id), font);
 }
 
 void FormWindow::shorten(int units) {

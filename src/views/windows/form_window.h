@@ -52,6 +52,8 @@ class FormWindow {
     virtual void keyReleased(int) {}
     virtual void mousePressed(int, int /*button*/) {}
     virtual void functionKeyPressed(int, WPARAM /*key*/) {}
+    // The list that the arrows move while the focus is in that box; 0 for none.
+    virtual int listMovedFrom(int) const { return 0; }
     // Whether Enter belongs to that control rather than to the default button.
     virtual bool takesEnter(int) const { return false; }
 
@@ -59,7 +61,7 @@ class FormWindow {
     void setCaption(std::string_view text);
     void setFocus(int id);
     // In the font of that name; where there is none, the system takes another one of fixed pitch.
-    void useFixedPitch(int list, std::string_view face = "Courier New");
+    void useFixedPitch(int id, std::string_view face = "Courier New");
     // Takes so much off the height of the window, in dialog units.
     void shorten(int units);
 

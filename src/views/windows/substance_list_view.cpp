@@ -21,7 +21,8 @@ class SubstanceListView : public FormWindow {
     void fill() override {
         showText(control(SEZN_NADPIS_1), form_.Nadpis_1);
         showText(control(SEZN_NADPIS_2), form_.Nadpis_2);
-        showText(control(SEZN_TITULEK), form_.Titulek);
+        showText(control(SEZN_TITULEK), kColumnHeadings);
+        useFixedPitch(SEZN_TITULEK, F_Sezn::kFont);
         useFixedPitch(SEZN_L_SEZN, F_Sezn::kFont);
         fillList(control(SEZN_L_SEZN), form_.L_Sezn.items);
     }

@@ -60,6 +60,13 @@ TEST_F(NativeForms, componentsAreChosenByMouseAndByKeys) {
                  form.press(SEZNAM_L_SEZNAM, VK_DOWN);
                  form.press(SEZNAM_L_SEZNAM, VK_RETURN);
                  form.expectText(SEZNAM_T_SMES + 1, std::to_string(fourth));
+                 form.pressAlt(SEZNAM_L_SEZNAM, L'h');  // by name, without regard to case and diacritics
+                 form.expectFocus(SEZNAM_HLEDAT);
+                 form.type(SEZNAM_HLEDAT, "MRAVEN");
+                 form.expectText(SEZNAM_NALEZENO, "4 z 480");
+                 form.press(SEZNAM_HLEDAT, VK_DOWN);
+                 form.press(SEZNAM_HLEDAT, VK_RETURN);
+                 form.expectText(SEZNAM_T_SMES + 2, "320");
                  form.pressAlt(SEZNAM_L_SEZNAM, L'z');  // again from the start
                  form.expectText(SEZNAM_T_SMES, "");
                  form.expectFocus(SEZNAM_T_SMES);
