@@ -68,12 +68,13 @@ class Host final : public UserInterface {
         form.close();
     }
     void showForm(F_Zmenaz& form) override {
-        act({[&] { form.setText(below(20), "1"); }, [&] { form.clickC_OK(); }, [&] { form.clickC_Data(); }});
+        act({[&] { form.setText(below(20), "1"); }, [&] { form.clickC_OK(); }, [&] { form.clickC_Data(); },
+             [&] { form.clickC_Obnovit(); }});
         if (form.visible) form.close();
     }
     void showForm(frmOprav& form) override {
         act({[&] { form.setText(below(10), "21"); }, [&] { form.selectProperty(below(11)); },
-             [&] { form.clickC_Vypocet(); }, [&] { form.clickC_OK(); }});
+             [&] { form.clickC_Vypocet(); }, [&] { form.clickC_Obnovit(); }, [&] { form.clickC_OK(); }});
         if (form.visible) form.close();
     }
 
