@@ -77,7 +77,10 @@ TEST_F(Views, displayAndChangeAComponent) {
         {"", "Enter C-u M-d", "Dočasná změna vlastností složky č. 1: Žluťoučká voda"}, {"", "End Tab", ""},
         {"99", "M-u", "SIGMA, Typ rovnice: zadejte číslo 1 až 19, nebo pole nechte prázdné."},
         {"", "Enter", ""}, {"1", "", "y = A1 + A2.T   přímka"}, {"", "M-u", "1. Žluťoučká voda"},
-        {"", "Escape", "Složení nebylo zadáno, směs zůstala bez složek."}});
+        {"", "Escape", "Zahodit zadané složky směsi?"}, {"", "n", "1. Žluťoučká voda"}, {"", "Tab", "složku č. 1"},
+        {"", "F3", "Dočasná změna složky č. 1: Žluťoučká voda"}, {"", "M-o", "Voda"}, {"", "M-u", "1. Voda"},
+        {"", "Escape", "Zahodit zadané složky směsi?"},
+        {"", "a", "Složení nebylo zadáno, směs zůstala bez složek."}});
     // clang-format on
     EXPECT_EQ(terminal.modes(), "010");
 }
@@ -104,7 +107,7 @@ TEST_F(Views, fitEveryWindow) {
     start("smes --dialog");
     terminal.waitFor("Počet látek je 480");
     follow({{"1", "Enter", ""}});
-    for (const auto& [columns, rows] : {std::pair{120, 40}, {40, 12}, {9, 3}, {60, 20}}) {
+    for (const auto& [columns, rows] : {std::pair{160, 40}, {40, 12}, {9, 3}, {60, 20}}) {
         terminal.resize(columns, rows);
         // The first line is the caption again, and the last one tells the keys: nothing was wrapped.
         terminal.waitFor(columns > 20 ? " SEZNAM LÁTEK - definice" : " SEZNAM");
@@ -124,8 +127,14 @@ TEST_F(Views, fitEveryWindow) {
 TEST_F(Views, browseTheList) {
     start("seznam");
     terminal.waitFor("Počet zahrnutých látek  480");
-    follow({{"", "End", ""}, {"ethanolamin", "", " z 480"}, {"", "", "Triethanolamin"}, {"", "x", "nenalezena!!!"}});
-    terminal.press("Enter");
+    follow({{"", "End", ""},
+            {"ethanolamin", "", " z 480"},
+            {"", "", "Triethanolamin"},
+            {"", "Enter", "Látka č. "},
+            {"", "", "Teplota [K]:"},
+            {"", "Escape", " z 480"},
+            {"", "x", "nenalezena!!!"}});
+    terminal.press("Escape");
     terminal.waitUntilGone("nenalezena");
     EXPECT_EQ(terminal.modes(), "010");
     start("seznam --podle cisel");
