@@ -111,7 +111,7 @@ class PropertyPoint {
     PropertyValue dewPoint();
     PropertyValue saturationPoint(double T);
     std::optional<Standing> missingVapourPressure() const;
-    PropertyValue vapourPressure(std::size_t i, double T) const;
+    bool hasVapourPressuresInRange(double T) const;
     double boilingExcess(double T) const;
     double condensingExcess(double T) const;
 

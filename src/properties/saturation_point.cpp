@@ -41,22 +41,49 @@ double rootInSteps(const Function& f, double cold, double hot, double ratio) {
     return kNone;
 }
 
-// An extrapolated vapour pressure may rise again where it is cold: then two zeros may lie between two long steps.
+// By secants over 1/T, in which such functions are nearly straight; NaN where they lead out of the bounds.
 template <class Function>
-double highestRoot(const Function& f, double cold, double hot) {
+double rootBySecants(const Function& f, double cold, double hot) {
+    constexpr int kSteps = 12;
+    constexpr double kRest = 1e-9;  // from there the next step is exact
+    double before = hot, atBefore = f(hot), T = 0.8 * hot, at = f(T);
+    for (int step = 0; step < kSteps && at != atBefore; ++step) {
+        const double next = 1.0 / (1.0 / T - at * (1.0 / T - 1.0 / before) / (at - atBefore));
+        if (!(next > cold && next < hot)) return kNone;
+        const bool isAtRest = std::abs(next - T) <= kRest * T;
+        if (isAtRest) return next;
+        before = T;
+        atBefore = at;
+        T = next;
+        at = f(T);
+    }
+    return kNone;
+}
+
+// The highest zero. An extrapolated vapour pressure may rise again where it is cold: then secants may find another
+// zero, and two may lie between two long steps. isCertain(T) tells that nothing is extrapolated there.
+template <class Function, class Certainty>
+double highestRoot(const Function& f, double cold, double hot, const Certainty& isCertain) {
+    if (const double T = rootBySecants(f, cold, hot); isCertain(T)) return T;
     const double T = rootInSteps(f, cold, hot, kLongStep);
     return std::isnan(T) ? rootInSteps(f, cold, hot, kShortStep) : T;
 }
 
 }  // namespace
 
-PropertyValue PropertyPoint::vapourPressure(std::size_t i, double T) const { return component(i).pure(kTENS, T); }
+bool PropertyPoint::hasVapourPressuresInRange(double T) const {
+    const Temperature at(T);
+    for (std::size_t i = 0; i < count_; ++i)
+        if (T < component(i).record().Tkr && component(i).pure(kTENS, at).standing != Standing::InRange) return false;
+    return T > 0;
+}
 
 // ln(P / sum(x Ps)): falls with the temperature. NaN where a vapour pressure is missing.
 double PropertyPoint::boilingExcess(double T) const {
+    const Temperature at(T);
     double sum = 0;
     for (std::size_t i = 0; i < count_; ++i) {
-        const PropertyValue Ps = vapourPressure(i, T);
+        const PropertyValue Ps = component(i).pure(kTENS, at);
         if (!Ps.isComputed()) return kNone;
         sum += x_[i] * Ps.value;
     }
@@ -65,10 +92,11 @@ double PropertyPoint::boilingExcess(double T) const {
 
 // ln(sum(y P / Ps)) over what can condense at T: falls with the temperature.
 double PropertyPoint::condensingExcess(double T) const {
+    const Temperature at(T);
     double sum = 0;
     for (std::size_t i = 0; i < count_; ++i) {
         if (T >= component(i).record().Tkr) continue;
-        const PropertyValue Ps = vapourPressure(i, T);
+        const PropertyValue Ps = component(i).pure(kTENS, at);
         if (!Ps.isComputed()) return kNone;
         sum += x_[i] * P_ / Ps.value;
     }
@@ -79,7 +107,7 @@ double PropertyPoint::condensingExcess(double T) const {
 PropertyValue PropertyPoint::saturationPoint(double T) {
     for (std::size_t i = 0; i < count_; ++i) {
         const bool isInert = T >= component(i).record().Tkr;
-        take(isInert ? Standing::Inert : vapourPressure(i, T).standing);
+        take(isInert ? Standing::Inert : component(i).pure(kTENS, T).standing);
     }
     return PropertyValue{worst_}.isComputed() ? PropertyValue{worst_, T} : PropertyValue{worst_, kNone};
 }
@@ -94,7 +122,8 @@ std::optional<Standing> PropertyPoint::missingVapourPressure() const {
 PropertyValue PropertyPoint::bubblePoint() {
     double hot = std::numeric_limits<double>::infinity();
     for (std::size_t i = 0; i < count_; ++i) hot = std::min(hot, kWithin * component(i).record().Tkr);
-    const double T = highestRoot([&](double t) { return boilingExcess(t); }, kLowest, hot);
+    const double T = highestRoot([&](double t) { return boilingExcess(t); }, kLowest, hot,
+                                 [&](double t) { return hasVapourPressuresInRange(t); });
     return std::isnan(T) ? kDivergence : saturationPoint(T);
 }
 
@@ -103,11 +132,12 @@ PropertyValue PropertyPoint::dewPoint() {
     std::array<double, kMostComponents> critical;
     for (std::size_t i = 0; i < count_; ++i) critical[i] = component(i).record().Tkr;
     std::sort(critical.begin(), critical.begin() + static_cast<std::ptrdiff_t>(count_));
+    const auto isCertain = [&](double t) { return hasVapourPressuresInRange(t); };
     double cold = kLowest;
     for (std::size_t i = 0; i < count_; ++i) {
         const double hot = kWithin * critical[i];
         if (hot > cold) {
-            const double T = highestRoot([&](double t) { return condensingExcess(t); }, cold, hot);
+            const double T = highestRoot([&](double t) { return condensingExcess(t); }, cold, hot, isCertain);
             if (!std::isnan(T)) return saturationPoint(T);
             // What condenses at any lower temperature is a gas from here on.
             if (i > 0 && condensingExcess(hot) <= 0) return saturationPoint(cold);
