@@ -2,6 +2,7 @@
 // go on with what it finds then. The bytes seed the choice of the calls.
 #include <array>
 #include <cstdint>
+#include <cstdio>
 #include <functional>
 #include <random>
 #include <vector>
@@ -30,8 +31,10 @@ class Host final : public UserInterface {
         smes_.MaxErrHlas(fuzz::kAmpleBudget);
     }
 
-    void run() {
+    // The number of calls made.
+    int run() {
         while (mayCall()) callMember();
+        return calls_;
     }
 
     Answer showMessage(const Message& message) override {
@@ -65,12 +68,13 @@ class Host final : public UserInterface {
         form.close();
     }
     void showForm(F_Zmenaz& form) override {
-        act({[&] { form.setText(below(20), "1"); }, [&] { form.clickC_OK(); }, [&] { form.clickC_Data(); }});
+        act({[&] { form.setText(below(20), "1"); }, [&] { form.clickC_OK(); }, [&] { form.clickC_Data(); },
+             [&] { form.clickC_Obnovit(); }});
         if (form.visible) form.close();
     }
     void showForm(frmOprav& form) override {
         act({[&] { form.setText(below(10), "21"); }, [&] { form.selectProperty(below(11)); },
-             [&] { form.clickC_Vypocet(); }, [&] { form.clickC_OK(); }});
+             [&] { form.clickC_Vypocet(); }, [&] { form.clickC_Obnovit(); }, [&] { form.clickC_OK(); }});
         if (form.visible) form.close();
     }
 
@@ -179,6 +183,12 @@ class Host final : public UserInterface {
     Smes smes_;
 };
 
+// How many calls the process has made, told at its end.
+struct Tally {
+    long long calls = 0;
+    ~Tally() { std::fprintf(stderr, "calls: %lld\n", calls); }
+};
+
 std::string database() {
     std::vector<TLatka> records;
     for (const char* name : {"Voda", "Ethanol", "Benzen", "", "Toluen"})
@@ -193,10 +203,11 @@ std::string database() {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     static const fuzz::TemporaryFolder folder;
+    static Tally tally;
     fuzz::Bytes bytes(data, size);
     while (!bytes.empty()) {
         folder.write("VELOR.DRC", database());
-        Host(folder.path(), bytes.take<std::uint64_t>()).run();
+        tally.calls += Host(folder.path(), bytes.take<std::uint64_t>()).run();
     }
     return 0;
 }

@@ -79,6 +79,7 @@ class F_Zmenaz {
         "Změna platí jen pro tuto směs, soubor databáze se nemění. Prázdné pole konstanty znamená, že není známa.";
     std::string C_OKCaption = "&Uložit";
     std::string C_DataCaption = "Uložit a změnit &data";
+    std::string C_ObnovitCaption = "&Obnovit z databáze";
     std::string C_ZpetCaption = "&Zpět beze změny";
     Focus focus{Focus::Control::Value, 0};
     bool visible = false;
@@ -90,8 +91,9 @@ class F_Zmenaz {
 
     F_Zmenaz();
 
-    // Fills the boxes. A field whose text stays as it was filled keeps its bytes.
-    void load(const TLatka& record);
+    // Fills the boxes with the record as it is used, which may have been changed before; the other one is the
+    // database's. A field whose text stays as it was filled keeps its bytes.
+    void load(const TLatka& record, const TLatka& original);
     // Error 9: field outside 0..18, here and below.
     void setText(int field, std::string text);
     // Enter walks to the next box, from the last one to the confirmation.
@@ -100,6 +102,8 @@ class F_Zmenaz {
     // raised and the form is closed.
     void clickC_OK();
     void clickC_Data();
+    // Fills the boxes with what the database holds; it is used when that is confirmed.
+    void clickC_Obnovit();
     void clickC_Zpet() { visible = false; }
     // The frame's cross or Esc is Back.
     void close() { clickC_Zpet(); }
@@ -107,7 +111,7 @@ class F_Zmenaz {
   private:
     std::optional<TLatka> changed();
 
-    TLatka record_;
+    TLatka record_, original_;
     std::array<std::string, kFields> filled_;
 };
 
@@ -127,23 +131,25 @@ class frmOprav {
     std::string Poznamka;
     TextBox T_Teplota{"298.15"};
     std::string T_TeplotaPopis = "Teplota [K]:";
-    std::string HodnotaPred, HodnotaPo;  // values at that temperature before and after the change
+    std::string HodnotaPred, HodnotaPo;  // values at that temperature: the database's, and of what is typed
     std::string PredPopis = "Před změnou:", PoPopis = "Po změně:";
     std::string Navod =
         "Změna platí jen pro tuto směs, soubor databáze se nemění. Bez typu rovnice vlastnost není dána.";
     std::string C_VypocetCaption = "&Vypočítat";
     std::string C_OKCaption = "&Uložit";
+    std::string C_ObnovitCaption = "&Obnovit z databáze";
     std::string C_ZpetCaption = "&Zpět beze změny";
     Focus focus{Focus::Control::Value, 0};
     bool visible = false;
 
-    // Text of the value that a correlation of property k has at T kelvin.
-    std::function<std::string(int k, const TKorelace& block, double T)> valueText;
+    // Text of the value that property k of a component with that record has at T kelvin.
+    std::function<std::string(int k, const TLatka& record, double T)> valueText;
     std::function<void(const TLatka& record)> Ulozit;              // event: the record as changed is to be used
     std::function<void(const std::string& text)> showExclamation;  // a message with the exclamation icon
 
-    // Fills the form with a component's correlations and selects the first property.
-    void load(const TLatka& record);
+    // Fills the form with a component's correlations as they are used, which may have been changed before, and selects
+    // the first property; the other record is the database's.
+    void load(const TLatka& record, const TLatka& original);
     // Error 9: another index.
     void selectProperty(int index);
     void setText(int field, std::string text);
@@ -155,6 +161,8 @@ class frmOprav {
     // Checks every property that was changed. The first field that cannot be taken is selected, told and focused;
     // otherwise the event is raised and the form is closed.
     void clickC_OK();
+    // Fills the boxes of the selected property with what the database holds; it is used when that is confirmed.
+    void clickC_Obnovit();
     void clickC_Zpet() { visible = false; }
     // The frame's cross or Esc is Back.
     void close() { clickC_Zpet(); }
@@ -163,11 +171,12 @@ class frmOprav {
     using Texts = std::array<std::string, kFields>;
 
     void showEquation();
+    void fill(int index);
     void showValues();
     void complain(int field, const std::string& text);
     TKorelace typedBlock(int index) const;
 
-    TLatka record_;
+    TLatka record_, original_;
     std::array<Texts, kProperties> filled_;
     std::array<Texts, kProperties> typed_;
 };

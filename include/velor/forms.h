@@ -10,6 +10,7 @@
 
 #include "velor/chosen_numbers.h"
 #include "velor/form_controls.h"
+#include "velor/substances.h"
 
 namespace velor {
 
@@ -23,9 +24,11 @@ class F_Sezn {
     std::string Titulek =
         "  Č.      Název látky                        Synonymum                          Vzorec               CAS No.";
     ListBox L_Sezn;
+    SubstanceList Latky;  // of the lines, for a view that has room for whole names; none where a line tells a failure
     bool visible = false;
 
-    std::function<void()> zavrit;  // event: the form is to be closed
+    std::function<void()> zavrit;                                 // event: the form is to be closed
+    std::function<void(const Substance& substance)> ZobrazLatku;  // event: one is to be shown; only where one can be
 
     // A click on the form, any key in the list, the frame's cross or Esc: all close it.
     void click() { close(); }
@@ -50,6 +53,7 @@ class F_Seznam {
     std::string C_OKCaption = "&Směs definována";
     std::string ZpetCaption = "Smazat, &znovu";
     ListBox L_Seznam;
+    SubstanceList Latky;                 // of the lines, for a view that has room for whole names
     std::array<TextBox, kBoxes> T_Smes;  // chosen numbers; only those up to the next free one are visible
     bool Option1 = true;                 // typing the numbers; otherwise picking from the list
     Focus focus{Focus::Control::Number, 0};

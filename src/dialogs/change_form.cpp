@@ -10,8 +10,9 @@ F_Zmenaz::F_Zmenaz() {
     for (int field = 0; field < kFields; ++field) boxAt(L_Pole, field) = fieldCaption(field);
 }
 
-void F_Zmenaz::load(const TLatka& record) {
+void F_Zmenaz::load(const TLatka& record, const TLatka& original) {
     record_ = record;
+    original_ = original;
     for (int field = 0; field < kFields; ++field) {
         boxAt(filled_, field) = fieldText(record, field);
         boxAt(T_Pole, field) = {boxAt(filled_, field)};
@@ -51,6 +52,13 @@ void F_Zmenaz::clickC_OK() {
 void F_Zmenaz::clickC_Data() {
     clickC_OK();
     isDataWanted = !visible;
+}
+
+// The correlations are another form's.
+void F_Zmenaz::clickC_Obnovit() {
+    TLatka restored = original_;
+    restored.Korelace = record_.Korelace;
+    load(restored, original_);
 }
 
 }  // namespace velor

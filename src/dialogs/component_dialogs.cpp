@@ -9,6 +9,7 @@
 #include "object/messages.h"
 #include "object/state.h"
 #include "records/field_text.h"
+#include "records/record_layout.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -48,29 +49,24 @@ std::string valueText(Smes& smes, double T, int i, int k) {
     return note.empty() ? text : text.append("   ").append(note);
 }
 
-// Another correlation in the place of a component's own, as long as this object lives.
-class BorrowedBlock {
+// Another record in the place of a component's own, as long as this object lives.
+class BorrowedRecord {
   public:
-    BorrowedBlock(State& state, int i, int k, const TKorelace& block)
-        : state_(state),
-          i_(i),
-          k_(static_cast<std::size_t>(k - 1)),
-          borrowed_(block),
-          own_(std::exchange(place(), block)) {}
-    // Unless a message box has led the host to load or change the component meanwhile.
-    ~BorrowedBlock() {
-        if (place() == borrowed_) place() = own_;
+    BorrowedRecord(State& state, int i, const TLatka& record)
+        : state_(state), i_(i), borrowed_(record), own_(std::exchange(state.definition.slots.change(i), record)) {}
+    // Unless a message box has led the host to load or change the component meanwhile. Compared byte by byte, because
+    // a damaged number does not equal itself.
+    ~BorrowedRecord() {
+        if (encodeRecord(state_.definition.slots.Latka(i_)) == encodeRecord(borrowed_))
+            state_.definition.slots.change(i_) = own_;
     }
-    BorrowedBlock(const BorrowedBlock&) = delete;
-    BorrowedBlock& operator=(const BorrowedBlock&) = delete;
+    BorrowedRecord(const BorrowedRecord&) = delete;
+    BorrowedRecord& operator=(const BorrowedRecord&) = delete;
 
   private:
-    TKorelace& place() { return state_.definition.slots.change(i_).Korelace[k_]; }
-
     State& state_;
     int i_;
-    std::size_t k_;
-    TKorelace borrowed_, own_;
+    TLatka borrowed_, own_;
 };
 
 void fill(frmLatka& form, const State& state, int i) {
@@ -113,7 +109,7 @@ void Smes::mSloz_ZobrazZ(int i) {
     names.caption = captionOf(state, i, "Dočasná změna");
     names.showExclamation = exclaim;
     names.Ulozit = use;
-    names.load(state.definition.slots.Latka(i));
+    names.load(state.definition.slots.Latka(i), databaseRecord(state, i));
     names.visible = true;
     state.messages.userInterface->showForm(names);
     if (!names.isDataWanted) return;
@@ -122,11 +118,11 @@ void Smes::mSloz_ZobrazZ(int i) {
     data.caption = captionOf(state, i, "Dočasná změna vlastností");
     data.showExclamation = exclaim;
     data.Ulozit = use;
-    data.valueText = [this, i](int k, const TKorelace& block, double T) {
-        const BorrowedBlock borrowed(*state_, i, k, block);
+    data.valueText = [this, i](int k, const TLatka& record, double T) {
+        const BorrowedRecord borrowed(*state_, i, record);
         return valueText(*this, T, i, k);
     };
-    data.load(state.definition.slots.Latka(i));
+    data.load(state.definition.slots.Latka(i), databaseRecord(state, i));
     data.visible = true;
     state.messages.userInterface->showForm(data);
 }

@@ -2,7 +2,6 @@
 
 #include <cmath>
 
-#include "records/record_layout.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -18,7 +17,7 @@ bool isKnown(float constant) { return constant != kNoConstant && std::isfinite(c
 
 std::string constantText(const ConstantDescription& constant, float value) {
     if (!isKnown(value)) return value == kNoConstant ? "neobsazeno" : "poškozeno";
-    return Format(value * constant.displayed, constant.pattern);
+    return Format(value, constant.pattern);
 }
 
 std::string coefficientText(float coefficient) {
@@ -49,9 +48,9 @@ std::array<frmLatka::Constant, frmLatka::kConstants> constantTexts(const TLatka&
     std::array<frmLatka::Constant, frmLatka::kConstants> texts;
     for (std::size_t k = 0; k < texts.size(); ++k) {
         const ConstantDescription& constant = kConstantTable[k];
-        const float member = record.*constantMember(static_cast<int>(k) + 1);
-        const std::string value = constantText(constant, member);
-        texts[k] = {std::string(constant.caption), value, std::string(isKnown(member) ? constant.displayUnit : "")};
+        const float value = record.*constant.member;
+        texts[k] = {std::string(constant.caption), constantText(constant, value),
+                    std::string(isKnown(value) ? constant.unit : "")};
     }
     return texts;
 }

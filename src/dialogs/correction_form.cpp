@@ -11,13 +11,17 @@
 
 namespace velor {
 
-void frmOprav::load(const TLatka& record) {
+void frmOprav::load(const TLatka& record, const TLatka& original) {
     record_ = record;
+    original_ = original;
     L_Vlast.items = propertyLines();
     if (!typedTemperature(T_Teplota.text)) T_Teplota = frmOprav().T_Teplota;
-    for (int index = 0; index < kProperties; ++index)
-        boxAt(filled_, index) = boxAt(typed_, index) = blockTexts(boxAt(record_.Korelace, index));
+    for (int index = 0; index < kProperties; ++index) fill(index);
     selectProperty(0);
+}
+
+void frmOprav::fill(int index) {
+    boxAt(filled_, index) = boxAt(typed_, index) = blockTexts(boxAt(record_.Korelace, index));
 }
 
 void frmOprav::selectProperty(int index) {
@@ -38,9 +42,11 @@ void frmOprav::showValues() {
     const std::optional<double> T = typedTemperature(T_Teplota.text);
     if (!T || !valueText) return;
     const auto text = valueText;  // a copy, as in raiseEvent
-    HodnotaPred = text(index + 1, boxAt(record_.Korelace, index), *T);
+    HodnotaPred = text(index + 1, original_, *T);
     try {
-        HodnotaPo = text(index + 1, typedBlock(index), *T);
+        TLatka typed = record_;
+        boxAt(typed.Korelace, index) = typedBlock(index);
+        HodnotaPo = text(index + 1, typed, *T);
     } catch (const InvalidField&) {
         HodnotaPo.clear();
     }
@@ -107,6 +113,13 @@ void frmOprav::clickC_OK() {
     }
     raiseEvent(Ulozit, record);
     visible = false;
+}
+
+void frmOprav::clickC_Obnovit() {
+    const int index = L_Vlast.selected;
+    boxAt(record_.Korelace, index) = boxAt(original_.Korelace, index);
+    fill(index);
+    selectProperty(index);
 }
 
 }  // namespace velor

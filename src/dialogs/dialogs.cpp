@@ -28,26 +28,39 @@ std::string withoutAsterisk(const std::string& text) {
     return text.substr(0, asterisk) + std::string(tail.substr(0, tail.size() - rest.size()));
 }
 
-std::vector<std::string> linesInOrder(State& state) {
+// Lines of the list and their substances.
+struct Lines {
+    std::vector<std::string> texts;
+    SubstanceList substances;
+
+    void add(const Lines& from, std::size_t position) {
+        texts.push_back(from.texts[position]);
+        substances.push_back(from.substances[position]);
+    }
+};
+
+Lines linesInOrder(State& state) {
     if (state.list.PocLatek > kMostShownLines) checked::raise(RunTimeError::kSubscript);
-    std::vector<std::string> lines = state.list.SeznamLatek;
+    Lines lines{state.list.SeznamLatek, state.list.substances};  // whoever is asked may build the list anew
     if (state.list.RezimSeznamu >= kSearch) return lines;
     const std::string answer = state.messages.userInterface->askText(
         {"0 - podle abecedy" + std::string(kLineBreak) + "1 - podle čísel (chvíli trvá ...)", "VELOR", "0"});
-    if (answer == "1") sortLines(state.list.randomState, lines);
     if (answer == "2") state.list.RezimSeznamu = kSearch;
-    return lines;
+    if (answer != "1") return lines;
+    Lines sorted;
+    for (const std::size_t position : sortedOrder(state.list.randomState, lines.texts)) sorted.add(lines, position);
+    return sorted;
 }
 
 // The lines that hold the text asked for, or one line that tells the failure.
-std::vector<std::string> askedLines(const State& state, const std::vector<std::string>& lines) {
+Lines askedLines(const State& state, const Lines& lines) {
     const std::string answer =
         state.messages.userInterface->askText({"Vložte název nebo část názvu hledané látky (bez *, %):", "VELOR", ""});
     const std::string wanted = withoutAsterisk(upperCase(answer));
-    std::vector<std::string> hits;
-    for (const std::string& line : lines)
-        if (upperCase(line).find(wanted) != std::string::npos) hits.push_back(line);
-    if (hits.empty()) hits.push_back("Látka  " + wanted + "  nenalezena!!!");
+    Lines hits;
+    for (std::size_t i = 0; i < lines.texts.size(); ++i)
+        if (upperCase(lines.texts[i]).find(wanted) != std::string::npos) hits.add(lines, i);
+    if (hits.texts.empty()) hits.texts.push_back("Látka  " + wanted + "  nenalezena!!!");
     return hits;
 }
 
@@ -62,7 +75,7 @@ std::string Smes::SeznamLatek(int i) const {
 
 int Smes::listedSubstance(int i) const {
     if (i < 1 || i > state_->list.PocLatek) checked::raise(RunTimeError::kSubscript);
-    return state_->list.numbers[static_cast<std::size_t>(i - 1)];
+    return state_->list.substances[static_cast<std::size_t>(i - 1)].number;
 }
 
 int Smes::PocLatek() const { return state_->list.PocLatek; }
@@ -72,8 +85,8 @@ void Smes::SeznamShow(const Variant& mode) {
     State& state = *state_;
     state.list.RezimSeznamu = mode.isMissing() ? std::int16_t{-1} : mode.toInt16();
     buildListForDialog(state);
-    const std::vector<std::string> lines = linesInOrder(state);
-    std::vector<std::string> shown;
+    const Lines lines = linesInOrder(state);
+    Lines shown;
     if (state.list.RezimSeznamu == kSearch) {
         shown = askedLines(state, lines);
     } else if (state.list.RezimSeznamu < kSearch) {
@@ -83,9 +96,11 @@ void Smes::SeznamShow(const Variant& mode) {
     const std::shared_ptr<F_Sezn> held = formsOf(state).list;
     F_Sezn& form = *held;
     form.Nadpis_1 = "SEZNAM LÁTEK DATABÁZE  V E L O R   " + platform::shortDate();
-    form.Nadpis_2 = state.list.RezimSeznamu == kSearch ? "k zadání nalezeno " + std::to_string(shown.size()) + " látek"
-                                                       : "Počet zahrnutých látek  " + Format(state.list.PocLatek, "#0");
-    form.L_Sezn = {std::move(shown), -1};
+    form.Nadpis_2 = state.list.RezimSeznamu == kSearch
+                        ? "k zadání nalezeno " + std::to_string(shown.texts.size()) + " látek"
+                        : "Počet zahrnutých látek  " + Format(state.list.PocLatek, "#0");
+    form.L_Sezn = {std::move(shown.texts), -1};
+    form.Latky = std::move(shown.substances);
     if (!form.L_Sezn.items.empty()) form.L_Sezn.selected = 0;
     form.zavrit = [this] { mSeznam_zavrit(); };
     form.visible = true;

@@ -100,6 +100,7 @@ void Smes::ZadejSmes() {
     buildListForDialog(state);
     F_Seznam& form = *formsOf(state).components;
     form.L_Seznam = {state.list.SeznamLatek, state.list.SeznamLatek.empty() ? -1 : 0};
+    form.Latky = state.list.substances;
     form.caption = " SEZNAM LÁTEK - definice složek směsi" + std::string(kBlanksBeforeVersion, ' ') + versionText();
     form.Nadpis_1 = "SEZNAM LÁTEK DATABÁZE  V E L O R";
     form.Nadpis_2 = "Počet látek je " + Format(state.list.PocLatek, "#0");

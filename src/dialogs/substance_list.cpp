@@ -66,25 +66,25 @@ struct KeyedLine {
     auto operator<=>(const KeyedLine&) const = default;
 };
 
-// One line and one number for each substance, in the order of the file.
-struct ReadSubstances {
+// A line for each substance, in the order of the file.
+struct ReadLines {
     std::vector<std::string> lines;
-    std::vector<int> numbers;
+    SubstanceList substances;
 };
 
-ReadSubstances readSubstances(State& state) {
+ReadLines readLines(State& state) {
     const RecordFile database(state.place.AdresaBaze);
-    ReadSubstances substances;
+    ReadLines read;
     const int count = database.count();
     for (int number = 1; number <= count; ++number) {
         // The buffer of component 1 is used and left with the last record read, deliberately.
         const TLatka& record = state.definition.slots.change(1) = database.read(number);
         if (!isSubstance(record)) continue;
-        if (substances.lines.size() == kMostLines) checked::raise(RunTimeError::kSubscript);
-        substances.lines.push_back(sortedLine(record, number));
-        substances.numbers.push_back(number);
+        if (read.lines.size() == kMostLines) checked::raise(RunTimeError::kSubscript);
+        read.lines.push_back(sortedLine(record, number));
+        read.substances.push_back(substanceOf(number, record));
     }
-    return substances;
+    return read;
 }
 
 // Character position of the database's file name in its path, without regard to case, counted from 1; 0 when it does
@@ -131,22 +131,15 @@ std::vector<std::size_t> sortedOrder(std::uint32_t& randomState, std::span<const
     return order;
 }
 
-void sortLines(std::uint32_t& randomState, std::vector<std::string>& lines) {
-    std::vector<std::string> sorted;
-    sorted.reserve(lines.size());
-    for (const std::size_t position : sortedOrder(randomState, lines)) sorted.push_back(lines[position]);
-    lines = std::move(sorted);
-}
-
 void rebuildSubstanceList(State& state) {
     if (state.place.AdresaBaze.empty()) locateDatabase(state.place, state.messages);
     if (state.place.AdresaBaze.empty()) return;
-    const ReadSubstances substances = readSubstances(state);
+    const ReadLines read = readLines(state);
     state.list.SeznamLatek.clear();
-    state.list.numbers.clear();
-    for (const std::size_t position : sortedOrder(state.list.randomState, substances.lines)) {
-        state.list.SeznamLatek.push_back(numberToFront(substances.lines[position]));
-        state.list.numbers.push_back(substances.numbers[position]);
+    state.list.substances.clear();
+    for (const std::size_t position : sortedOrder(state.list.randomState, read.lines)) {
+        state.list.SeznamLatek.push_back(numberToFront(read.lines[position]));
+        state.list.substances.push_back(read.substances[position]);
     }
     state.list.PocLatek = static_cast<std::int16_t>(state.list.SeznamLatek.size());
     writeListing(state);

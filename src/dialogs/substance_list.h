@@ -13,7 +13,6 @@ namespace velor {
 
 // The positions of the lines in the order of their first 17 characters; lines equal in these keep their order.
 std::vector<std::size_t> sortedOrder(std::uint32_t& randomState, std::span<const std::string> lines);
-void sortLines(std::uint32_t& randomState, std::vector<std::string>& lines);
 
 // See Smes::AkSeznam.
 void rebuildSubstanceList(State& state);

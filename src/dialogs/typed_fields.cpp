@@ -7,7 +7,6 @@
 
 #include "dialogs/typed_temperature.h"
 #include "records/field_text.h"
-#include "records/record_layout.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -83,7 +82,7 @@ void readConstant(const std::string& text, int field, TLatka& record) {
     const std::size_t k = static_cast<std::size_t>(field) - F_Zmenaz::kFirstConstant;
     const ConstantDescription& constant = kConstantTable[k];
     const bool isNeeded = constant.key == "Mv";  // without a molar mass nothing of the mixture can be computed
-    float& member = record.*constantMember(static_cast<int>(k) + 1);
+    float& member = record.*constant.member;
     if (!isNeeded && trimBlanks(text).empty()) {
         member = kNoConstant;
         return;
@@ -141,7 +140,7 @@ std::string fieldText(const TLatka& record, int field) {
         default:
             break;
     }
-    const float constant = record.*constantMember(field - F_Zmenaz::kFirstConstant + 1);
+    const float constant = record.*kConstantTable[static_cast<std::size_t>(field) - F_Zmenaz::kFirstConstant].member;
     return constant == kNoConstant ? std::string() : singleText(constant);
 }
 

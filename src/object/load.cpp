@@ -41,6 +41,16 @@ std::int16_t loadComponents(State& state) {
     return state.definition.PocSlozek;
 }
 
+TLatka databaseRecord(const State& state, int i) {
+    const ComponentSlots& slots = state.definition.slots;
+    try {
+        const TLatka record = RecordFile(state.place.AdresaBaze).read(slots.CisloLatky(i));
+        return isUnused(record, state.messages.ChyboveHlasky) ? slots.Latka(i) : record;
+    } catch (const RunTimeError&) {
+        return slots.Latka(i);
+    }
+}
+
 void tellLoadFailure(const State& state) {
     showUnlessSilent(state.messages, "Nemohu načíst z " + state.place.DataFileName + "!", Icon::Critical);
 }

@@ -11,6 +11,9 @@ namespace velor {
 // See Smes::Inivlr. Returns the number of components, 0 when one is missing from the database.
 std::int16_t loadComponents(State& state);
 
+// The record of loaded component i (1..20) as the database holds it; the loaded one where that cannot be read any more.
+TLatka databaseRecord(const State& state, int i);
+
 // Says that the records cannot be loaded, in every mode but 2.
 void tellLoadFailure(const State& state);
 

@@ -10,6 +10,7 @@
 #include "object/messages.h"
 #include "object/slots.h"
 #include "velor/flash_record.h"
+#include "velor/substances.h"
 #include "velor/user_interface.h"
 #include "velor/variant.h"
 
@@ -46,7 +47,7 @@ struct DatabasePlace {
 
 struct SubstanceListState {
     std::vector<std::string> SeznamLatek;  // its lines; empty until it is built
-    std::vector<int> numbers;              // the substance of each line
+    SubstanceList substances;              // of each line
     std::int16_t PocLatek = 0;
     std::int16_t RezimSeznamu = 0;
     std::uint32_t randomState = 0x50000;  // where the classic generator begins

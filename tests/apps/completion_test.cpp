@@ -3,6 +3,7 @@
 #include <sstream>
 
 #include "small_database.h"
+#include "views/terminal/tmux.h"
 
 namespace velor::test {
 namespace {
@@ -95,6 +96,38 @@ TEST(CompletionTest, aNameStaysAName) {
     EXPECT_EQ(candidates("velor seznam --baze \"" + at + "\\$|"), Words{at + "\\$(touch PWN).DRC"});
     EXPECT_EQ(candidates("velor seznam --baze " + at + "\\$|"), Words{at + "\\$\\(touch\\ PWN\\).DRC"});
     EXPECT_EQ(candidates("velor seznam --baze " + at + "\\(|"), Words{at + "\\(kopie\\)\\ VELOR.DRC"});
+}
+
+// Nor is anything run that stands in a database: Tab and Enter at a terminal show the substance of that name.
+TEST(CompletionTest, tabRunsNothing) {
+    const TemporaryFolder folder;
+    const std::string names[] = {"$(touch PWN)", "`touch PWN`", "\"touch PWN\" a", "x\ntouch PWN"};
+    std::vector<TLatka> records{sampleSubstance(1, "Voda")};
+    for (const std::string& name : names)
+        records.push_back(sampleSubstance(static_cast<int>(records.size()) + 1, name));
+    for (const char* file : {"VELOR.DRC", "$(touch PWN).DRC", "(kopie) VELOR.DRC"})
+        folder.write(file, databaseBytes(records));
+    Tmux terminal{120, 24};
+    terminal.type("cd " + folder.path() + "; . " + kScript + "; PATH=" + VELOR_PROGRAMS + ":$PATH");
+    const std::tuple<const char*, const char*, const char*> cases[] = {
+        {"1 --baze \"\\$", "--baze \"\\$(touch PWN).DRC\"", "Voda"},
+        {"1 --baze \\(", "--baze \\(kopie\\)\\ VELOR.DRC", "Voda"},
+        {"--baze VELOR.DRC \\$", "\\$\\(touch\\ PWN\\)", "$(touch PWN)"},
+        {"--baze VELOR.DRC \"\\$", "\"\\$(touch PWN)\"", "$(touch PWN)"},
+        {"--baze VELOR.DRC \\`", "\\`touch\\ PWN\\`", "`touch PWN`"},
+        {"--baze VELOR.DRC \\\"", "\\\"touch\\ PWN\\\"\\ a", "\"touch PWN\" a"},
+        {"--baze VELOR.DRC x", "x\\?touch\\ PWN", "x?touch PWN"},
+    };
+    for (const auto& [typed, completed, shown] : cases) {
+        terminal.press("Enter");
+        terminal.type(std::string("clear; velor latka ") + typed);
+        terminal.press("Tab");
+        terminal.waitFor(completed);
+        terminal.type(" | head -1");
+        terminal.press("Enter");
+        terminal.waitFor(shown + std::string("\n$"));
+    }
+    EXPECT_FALSE(std::filesystem::exists(folder / "PWN"));
 }
 
 TEST(CompletionTest, isSilentWithoutADatabase) {

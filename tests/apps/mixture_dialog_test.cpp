@@ -32,11 +32,15 @@ TEST_F(MixtureDialogTest, describesWhatWasChosen) {
 }
 
 TEST_F(MixtureDialogTest, describesTheDataThatWereChanged) {
-    const std::string change = R"(d 1\n1 = Moje voda\n3 = X\n5 = 0.1\nok\n)";
+    const std::string change = R"(d 1\n1 = Moje voda\n3 = X\n5 = 0.1\nd\nSIGMA\n1 =\nok\n)";
     const auto document = answers(R"(1\n41\nok\n)" + change + R"(0.5\n0.5\n\nn\n)", "--json").json();
     EXPECT_EQ(document["slozeni"][0]["nazev"], "Moje voda");
     EXPECT_EQ(document["slozeni"][0]["vzorec"], "X");
     EXPECT_NEAR(document["pseudokriticke"]["MSm"]["hodnota"].get<double>(), 0.5 * (0.1 + 0.07214878), 1e-7);
+    EXPECT_EQ(document["zmeny"][2], nlohmann::json::parse(R"({"udaj": "1.Mv", "latka": "Voda", "popis":
+        "molární hmotnost", "v_databazi": 0.01801528, "nyni": 0.1, "jednotka": "kg/mol"})"));
+    EXPECT_EQ(document["zmeny"][3]["udaj"], "1.SIGMA.typ");
+    EXPECT_TRUE(document["zmeny"][3]["nyni"].is_null());
 }
 
 TEST_F(MixtureDialogTest, slipsOfTypingAreAskedAgain) {

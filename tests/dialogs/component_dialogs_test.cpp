@@ -54,7 +54,7 @@ TEST_F(ComponentDialogs, showsTheRecord) {
     EXPECT_EQ(shown.Nazev + "|" + shown.Synonym + "|" + shown.Vzorec + "|" + shown.CAS, "Éter|Sample|C2H6O|[64-17-5]");
     const auto constant = [&](std::size_t k) { return shown.Konstanty[k].value + " " + shown.Konstanty[k].unit; };
     EXPECT_EQ(constant(0) + "|" + constant(1) + "|" + constant(2) + "|" + constant(3),
-              "0.04600 kg/mol|500.00 K|6000.0 kPa|200.0 cm³/mol");
+              "0.04600 kg/mol|500.00 K|6000000.0 Pa|2.0000E-04 m³/mol");
     EXPECT_EQ(shown.Korelace[8].Vztah, "y = A1 + A2.T   přímka");
     EXPECT_EQ(shown.Korelace[8].A[0] + " " + shown.Korelace[8].range, "9.000 200 – 400 K");
 }
@@ -164,6 +164,26 @@ TEST_F(ComponentDialogs, showsValuesBeforeAndAfterACorrection) {
     EXPECT_EQ(smes.VLRConst(2, 1, 8), 0.0F);
     EXPECT_EQ(smes.VLRConst(2, 2, 1), 2.0F);  // the others keep theirs
     EXPECT_EQ(smes.VLRConst(1, 9, 3), 0.0F);
+}
+
+TEST_F(ComponentDialogs, findTheWayBackToTheDatabase) {
+    for (const bool isBack : {false, true}) {
+        change(
+            [&](F_Zmenaz& form) {
+                isBack ? form.clickC_Obnovit() : form.setText(F_Zmenaz::kFirstConstant + 1, "510");
+                form.clickC_Data();
+            },
+            [&](frmOprav& form) {
+                form.setTemperature("300");
+                form.selectProperty(8);
+                EXPECT_EQ(form.HodnotaPred + "|" + form.HodnotaPo, isBack ? "309.0 Pa|310.0 Pa" : "309.0 Pa|309.0 Pa");
+                isBack ? form.clickC_Obnovit() : form.setText(frmOprav::kFirstCoefficient, "10");
+                EXPECT_EQ(smes.VLRConst(2, 9, 1), isBack ? 10.0F : 9.0F);  // not before it is confirmed
+                form.clickC_OK();
+            });
+        EXPECT_EQ(smes.Bod(2, 2), isBack ? 500.0F : 510.0F);
+        EXPECT_EQ(smes.VLRConst(2, 9, 1), isBack ? 9.0F : 10.0F);
+    }
 }
 
 }  // namespace

@@ -57,6 +57,8 @@ TEST(ListForm, asksForTheOrderOrTheText) {
         EXPECT_EQ(shown.Nadpis_1, "SEZNAM LÁTEK DATABÁZE  V E L O R   " + platform::shortDate());
         EXPECT_EQ(shown.Nadpis_2, c.found < 0 ? "Počet zahrnutých látek  4"
                                               : "k zadání nalezeno " + std::to_string(c.found) + " látek");
+        for (std::size_t i = 0; i < shown.Latky.size(); ++i)
+            EXPECT_EQ(c.lines[i], "00" + std::to_string(shown.Latky[i].number));
         EXPECT_EQ(shown.L_Sezn.selected, c.lines.empty() ? -1 : 0);
     }
     EXPECT_TRUE(boxes.messages.empty());

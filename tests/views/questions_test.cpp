@@ -74,13 +74,14 @@ TEST_F(Questions, enterAComposition) {
 
 TEST_F(Questions, displayAndChangeAComponent) {
     const std::string display = "l 3\nl 2\nTENS\n300\nteplo\nz\n";
-    const std::string change = "d 2\n2 = \n6 = -1\nok\n6=510\nd\ntens\n2 = 10\nt = 301\nok\n";
+    const std::string change = "d 2\n2 = \no\n2 = \n6 = -1\nok\n6=510\nd\nsigma\n2 = 5\no\ntens\n2 = 10\nt = 301\nok\n";
     const std::string shown = session(display + change + "1\n1\n\n", [&](Smes& smes) {
         smes.DefSmes(2, Fractions({1, 2}));
         smes.ZadejSloz(n, X, W, "", 1);
         EXPECT_EQ(smes.Synonym(2).toText(), std::string(30, ' '));
         EXPECT_EQ(smes.Bod(2, 2), 510.0F);
         EXPECT_EQ(smes.VLRConst(2, 9, 1), 10.0F);
+        EXPECT_EQ(smes.VLRConst(2, 10, 1), 10.0F);
     });
     const auto line = [](const std::string& caption, const std::string& value) {
         return "  " + caption + std::string(37 - characterCount(caption), ' ') + value + "\n";

@@ -36,7 +36,7 @@ void addSubstanceListCommand(CLI::App& program, Arguments& arguments) {
         ->group(kOptions);
     addCommonOptions(command, arguments);
     command->footer(
-        "Na terminálu se celý seznam otevře k prohlížení a hledání; jinam se vypíše.\n"
+        "Na terminálu se celý seznam otevře k prohlížení a hledání, Enter ukáže látku; jinam se vypíše.\n"
         "Celý seznam se také zapíše do souboru SEZNAM.DAT vedle databáze, pokud je tam zápis dovolen.\n"
         "Příklad: velor seznam kyselina");
     command->callback([&] {

@@ -56,6 +56,9 @@ MixtureValue mixtureValue(const Mixture& mixture, const MixtureProperty& propert
 // holds the substances.
 MixtureValue worstPureValue(const Mixture& mixture, MixtureObject& object, const MixtureProperty& property, double T);
 
+// What of the substances was changed for this mixture alone, in the database and now; no section where nothing was.
+std::vector<Section> changeSections(const Mixture& mixture);
+
 // Bubble and dew point of the mixture at P pascals.
 struct BoilingRange {
     MixtureValue bubble, dew;

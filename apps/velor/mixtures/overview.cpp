@@ -1,3 +1,6 @@
+#include <array>
+#include <utility>
+
 #include "mixtures/mixture.h"
 #include "velor/text.h"
 
@@ -21,8 +24,11 @@ Section pseudocriticalSection(MixtureObject& object) {
 
 Report describeMixture(const Mixture& mixture, double P) {
     MixtureObject object(mixture);
-    return {{compositionSection(mixture), pseudocriticalSection(object), boilingSection(boilingRange(mixture, P), P)},
-            {}};
+    Report report{changeSections(mixture), {}};
+    for (Section& section : std::array{compositionSection(mixture), pseudocriticalSection(object),
+                                       boilingSection(boilingRange(mixture, P), P)})
+        report.sections.push_back(std::move(section));
+    return report;
 }
 
 Report answer(const MixtureRequest& request, const Database& database, UserInterface&) {

@@ -2,6 +2,8 @@
 
 #include "people/people.h"
 #include "substances/substances.h"
+#include "velor/component_forms.h"
+#include "velor/forms.h"
 #include "velor/text.h"
 
 namespace velor::app {
@@ -65,15 +67,41 @@ namespace {
 
 constexpr std::size_t kMostShownLines = 800;  // of the library's form
 
-// The order is known from the command line, so that the library's question about it is answered at once.
-class KnownOrder : public ForwardingUserInterface {
+// The order is known from the command line, so that the library's question about it is answered at once; Enter shows
+// the substance and comes back to the list.
+class Browser : public ForwardingUserInterface {
   public:
-    KnownOrder(UserInterface& user, bool byNumber) : ForwardingUserInterface(user), byNumber_(byNumber) {}
+    Browser(UserInterface& user, const Database& database, bool byNumber)
+        : ForwardingUserInterface(user), database_(database), byNumber_(byNumber) {}
+    using ForwardingUserInterface::showForm;
 
     std::string askText(const InputRequest&) override { return byNumber_ ? "1" : "0"; }
+    void showForm(F_Sezn& form) override {
+        form.ZobrazLatku = [this](const Substance& substance) { display(substance); };
+        ForwardingUserInterface::showForm(form);
+    }
+    void showForm(frmLatka& form) override {
+        form.caption = shownCaption_;
+        ForwardingUserInterface::showForm(form);
+    }
 
   private:
+    void display(const Substance& substance) {
+        shownCaption_ = "Látka č. " + std::to_string(substance.number) + ": " + substance.name;
+        try {
+            Smes smes(*this);
+            loadInto(smes, database_, {&substance, 1});
+            smes.mSloz_ZobrazL(1);
+        } catch (const RunTimeError& error) {
+            showMessage({describe(error), Icon::Exclamation});
+        } catch (const Failure& failure) {
+            showMessage({failure.what(), Icon::Exclamation});
+        }
+    }
+
+    const Database& database_;
     bool byNumber_;
+    std::string shownCaption_;
 };
 
 }  // namespace
@@ -81,7 +109,7 @@ class KnownOrder : public ForwardingUserInterface {
 bool canBrowse(const Database& database) { return database.substances.size() <= kMostShownLines; }
 
 void browse(const SubstanceListRequest& request, const Database& database, UserInterface& user) {
-    KnownOrder dialogs(user, request.byNumber);
+    Browser dialogs(user, database, request.byNumber);
     Smes smes(dialogs);
     buildList(smes, database);
     smes.SeznamShow();

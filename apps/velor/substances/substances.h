@@ -53,7 +53,8 @@ struct SubstanceListRequest {
 Report answer(const SubstanceListRequest& request, const Database& database, UserInterface& userInterface);
 // Whether the library's form takes a list as long as this.
 bool canBrowse(const Database& database);
-// Shows the list in the order asked for, to be leafed through on a terminal until the user closes it.
+// Shows the list in the order asked for, to be leafed through on a terminal until the user closes it; Enter shows a
+// substance.
 void browse(const SubstanceListRequest& request, const Database& database, UserInterface& user);
 
 // latka: names, constants and correlations of a substance.

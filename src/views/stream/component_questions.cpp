@@ -126,6 +126,7 @@ void StreamUserInterface::showForm(F_Zmenaz& form) {
     tellFields(form, messages_);
     messages_ << kHowToChange << "  ok         " << withoutMark(form.C_OKCaption) << '\n'
               << "  d          " << withoutMark(form.C_DataCaption) << '\n'
+              << "  o          " << withoutMark(form.C_ObnovitCaption) << '\n'
               << "  z          " << withoutMark(form.C_ZpetCaption) << '\n';
     for (std::string typed; form.visible;) {
         messages_ << "> " << std::flush;
@@ -135,6 +136,9 @@ void StreamUserInterface::showForm(F_Zmenaz& form) {
             form.clickC_OK();
         } else if (command == "D") {
             form.clickC_Data();
+        } else if (command == "O") {
+            form.clickC_Obnovit();
+            tellFields(form, messages_);
         } else if (command == "Z") {
             form.clickC_Zpet();
         } else {
@@ -150,6 +154,7 @@ void StreamUserInterface::showForm(frmOprav& form) {
               << kHowToChange << "  T = text   teplota pro výpočet v kelvinech\n"
               << "  v          " << withoutMark(form.C_VypocetCaption) << '\n'
               << "  ok         " << withoutMark(form.C_OKCaption) << '\n'
+              << "  o          " << withoutMark(form.C_ObnovitCaption) << '\n'
               << "  z          " << withoutMark(form.C_ZpetCaption) << '\n';
     tellCorrection(form, messages_);
     for (std::string typed; form.visible;) {
@@ -161,8 +166,8 @@ void StreamUserInterface::showForm(frmOprav& form) {
             form.clickC_OK();
         } else if (command == "Z") {
             form.clickC_Zpet();
-        } else if (command == "V") {
-            form.clickC_Vypocet();
+        } else if (command == "V" || command == "O") {
+            command == "V" ? form.clickC_Vypocet() : form.clickC_Obnovit();
             tellCorrection(form, messages_);
         } else if (const int index = propertyIndex(form, typed); index >= 0) {
             form.selectProperty(index);

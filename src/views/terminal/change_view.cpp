@@ -17,8 +17,10 @@ void showView(Screen& screen, F_Zmenaz& form) {
     };
     Button& save = dialog.add<Button>([&] { return form.C_OKCaption; }, [&] { confirm(&F_Zmenaz::clickC_OK); });
     Button& data = dialog.add<Button>([&] { return form.C_DataCaption; }, [&] { confirm(&F_Zmenaz::clickC_Data); });
+    Button& restore =
+        dialog.add<Button>([&] { return form.C_ObnovitCaption; }, [&] { confirm(&F_Zmenaz::clickC_Obnovit); });
     Button& back = dialog.add<Button>([&] { return form.C_ZpetCaption; }, [&] { form.clickC_Zpet(); });
-    save.isPinned = data.isPinned = back.isPinned = true;
+    save.isPinned = data.isPinned = restore.isPinned = back.isPinned = true;
     dialog.escape = [&] { form.close(); };
     dialog.after = [&] { fields.followFocus(save); };
     dialog.layout = [&](Size page) {
@@ -27,7 +29,7 @@ void showView(Screen& screen, F_Zmenaz& form) {
         guide.area = {0, 1, guideRows, page.columns - 2};
         const int captionWidth = std::min(kCaptionWidth, page.columns / 2);
         fields.place(guideRows, 1, captionWidth, std::clamp(page.columns - captionWidth - 2, 1, kBoxWidth));
-        dialog.pinnedRows = placeInRows({&save, &data, &back}, 0, page.columns);
+        dialog.pinnedRows = placeInRows({&save, &data, &restore, &back}, 0, page.columns);
     };
     fields.expectFocus();
     fields.followFocus(save);

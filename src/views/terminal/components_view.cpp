@@ -19,24 +19,17 @@ std::string withoutGaps(const std::string& text) {
     return result;
 }
 
-// The names of the substances chosen so far, as the list tells them.
+// The names of the substances chosen so far.
 std::string chosenNames(const F_Seznam& form) {
-    constexpr std::size_t kNumberWidth = 3, kNameFrom = 5, kNameWidth = 20;
     std::string names;
     for (int k = 0; k < form.PocZadanych; ++k) {
-        std::string number = boxAt(form.T_Smes, k).text;
-        if (number.size() < kNumberWidth) number.insert(0, kNumberWidth - number.size(), '0');
-        const auto line = std::find_if(form.L_Seznam.items.begin(), form.L_Seznam.items.end(),
-                                       [&](const std::string& item) { return item.substr(0, kNumberWidth) == number; });
+        const std::string& number = boxAt(form.T_Smes, k).text;
+        const auto substance = std::ranges::find_if(form.Latky, [&](const Substance& listed) {
+            const std::string digits = std::to_string(listed.number);
+            return number.ends_with(digits) && number.find_first_not_of('0') == number.size() - digits.size();
+        });
         if (!names.empty()) names += " + ";
-        if (line == form.L_Seznam.items.end()) {
-            names += "?";
-            continue;
-        }
-        std::string_view rest = std::string_view(*line).substr(kNameFrom);
-        const std::string_view name = rest;
-        for (std::size_t i = 0; i < kNameWidth && !rest.empty(); ++i) takeCodePoint(rest);
-        names += trimBlanks(name.substr(0, name.size() - rest.size()));
+        names += substance == form.Latky.end() ? "?" : substance->name;
     }
     return names;
 }
@@ -48,7 +41,7 @@ class ComponentsView {
           dialog_(screen, [this] { return withoutGaps(form_.caption); }),
           headings_(dialog_.add<Label>([this] { return form_.Nadpis_1 + " · " + form_.Nadpis_2; }, Style::Bold)),
           file_(dialog_.add<Label>([this] { return form_.lblDatafile; }, Style::Dim)),
-          search_(dialog_, form.L_Seznam, [this](int index) { form_.selectLine(index); }),
+          search_(dialog_, form.L_Seznam, form.Latky, [this](int index) { form_.selectLine(index); }),
           searched_(dialog_.add<Label>([this] { return search_.list().searched() + "_"; }, Style::Underlined)) {
         addList();
         addOptions();

@@ -3,6 +3,7 @@
 
 #include "velor/form_controls.h"
 #include "velor/text.h"
+#include "views/terminal/boxes.h"
 #include "views/terminal/dialog.h"
 #include "views/terminal/views.h"
 
@@ -16,17 +17,22 @@ class CompositionView {
   public:
     CompositionView(Screen& screen, F_Sloz& form)
         : form_(form),
+          screen_(screen),
           dialog_(screen, [this] { return form_.caption; }),
           guide_(dialog_.add<Label>([this] { return std::string(trimBlanks(form_.Navod)); }, Style::Dim)),
           nameHeading_(dialog_.add<Label>([this] { return form_.Nadpis; }, Style::Bold)),
           valueHeading_(dialog_.add<Label>([this] { return form_.Nadpiss; }, Style::Bold)) {
         for (int i = 0; i < form.components; ++i) addComponent(i);
         addButtons();
-        dialog_.escape = [this] { form_.close(); };
+        dialog_.escape = [this] { leave(); };
         dialog_.layout = [this](Size page) { layOut(page); };
         dialog_.before = [this](const Event& event) { return openComponent(event); };
-        dialog_.after = [this] { followFocus(); };
+        dialog_.after = [this] {
+            followFocus();
+            followComponent();
+        };
         followFocus();
+        followComponent();
     }
 
     void run() { dialog_.run(form_.visible); }
@@ -35,7 +41,10 @@ class CompositionView {
     void addComponent(int i) {
         Label& name = dialog_.add<Label>(
             [this, i] { return std::to_string(i + 1) + ". " + std::string(trimBlanks(boxAt(form_.L_J, i))); });
-        name.clicked = [this, i](Mouse mouse) { form_.mouseOnName(i, mouse == Mouse::Left ? kLeft : kRight); };
+        name.clicked = [this, i](Mouse mouse) {
+            component_ = i;
+            form_.mouseOnName(i, mouse == Mouse::Left ? kLeft : kRight);
+        };
         names_.push_back(&name);
         TextField& value = dialog_.add<TextField>([this, i] { return boxAt(form_.T_S, i).text; },
                                                   [this, i](std::string text) { form_.setText(i, std::move(text)); });
@@ -66,13 +75,26 @@ class CompositionView {
         isFocusDue_ = true;
     }
 
-    // From the keyboard the keys stand for the mouse on the name of the component whose value has the focus.
+    // Back drops all components; a key pressed once too often is no reason to.
+    void leave() {
+        const Message question{"Zahodit zadané složky směsi?", Icon::Exclamation, "VELOR", Buttons::YesNo};
+        if (form_.components == 0 || dialog_.isDeserted() || showBox(screen_, question) == Answer::Yes) form_.close();
+    }
+
+    // From the keyboard the keys stand for the mouse on the name of the component selected last.
     bool openComponent(const Event& event) {
         if (!event.is(Key::F2) && !event.is(Key::F3)) return false;
-        for (std::size_t i = 0; i < values_.size(); ++i)
-            if (dialog_.hasFocus(*values_[i]))
-                form_.mouseOnName(static_cast<int>(i), event.is(Key::F2) ? kLeft : kRight);
+        if (form_.components > 0) form_.mouseOnName(component_, event.is(Key::F2) ? kLeft : kRight);
         return true;
+    }
+
+    // The buttons tell which component the keys would open.
+    void followComponent() {
+        for (std::size_t i = 0; i < values_.size(); ++i)
+            if (dialog_.hasFocus(*values_[i])) component_ = static_cast<int>(i);
+        for (Button* button : {molar_, mass_, confirm_, back_})
+            button->hint = "Enter potvrdí · F2 zobrazí a F3 změní složku č. " + std::to_string(component_ + 1) +
+                           " · Tab dál · Esc zpět";
     }
 
     void followFocus() {
@@ -103,6 +125,7 @@ class CompositionView {
     }
 
     F_Sloz& form_;
+    Screen& screen_;
     Dialog dialog_;
     Label& guide_;
     Label& nameHeading_;
@@ -113,6 +136,7 @@ class CompositionView {
     Button* back_ = nullptr;
     std::vector<Label*> names_;
     std::vector<TextField*> values_;
+    int component_ = 0;  // selected last, from 0
     bool isFocusDue_ = true;
 };
 

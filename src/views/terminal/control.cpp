@@ -198,7 +198,8 @@ void List::draw(Canvas& canvas, bool hasFocus) {
         const bool isCurrent = index == current_;
         const Style style = !isCurrent ? Style::Plain : hasFocus ? Style::Reversed : Style::Bold;
         if (isCurrent) canvas.fill(area.row + line, area.column, area.columns - 1, style);
-        canvas.write(area.row + line, area.column, area.columns - 1, items_[static_cast<std::size_t>(index)], style);
+        const std::string text = lineText ? lineText(index, area.columns - 1) : items_[static_cast<std::size_t>(index)];
+        canvas.write(area.row + line, area.column, area.columns - 1, text, style);
     }
     if (count <= area.rows) return;
     const int bar = top_ * (area.rows - 1) / std::max(1, count - area.rows);

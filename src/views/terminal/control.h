@@ -100,9 +100,10 @@ class List : public Control {
   public:
     // The items stay as they are while the list lives.
     List(const std::vector<std::string>& items, int selected, std::function<void(int index)> changed);
-    std::function<void(int index)> picked;     // by Enter or a double click
-    std::function<bool(const Event&)> before;  // true: the view has used the key
-    std::function<void()> clicked;             // instead of what a click does otherwise
+    std::function<void(int index)> picked;                      // by Enter or a double click
+    std::function<bool(const Event&)> before;                   // true: the view has used the key
+    std::function<void()> clicked;                              // instead of what a click does otherwise
+    std::function<std::string(int index, int width)> lineText;  // an item as it is shown, where not as it is searched
 
     bool takesFocus() const override { return isShown; }
     bool takesWheel() const override { return true; }

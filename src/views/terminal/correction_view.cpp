@@ -27,8 +27,10 @@ class CorrectionView {
           compute_(dialog_.add<Button>([this] { return form_.C_VypocetCaption; },
                                        [this] { press(&frmOprav::clickC_Vypocet); })),
           save_(dialog_.add<Button>([this] { return form_.C_OKCaption; }, [this] { press(&frmOprav::clickC_OK); })),
+          restore_(dialog_.add<Button>([this] { return form_.C_ObnovitCaption; },
+                                       [this] { press(&frmOprav::clickC_Obnovit); })),
           back_(dialog_.add<Button>([this] { return form_.C_ZpetCaption; }, [this] { form_.clickC_Zpet(); })) {
-        compute_.isPinned = save_.isPinned = back_.isPinned = true;
+        compute_.isPinned = save_.isPinned = restore_.isPinned = back_.isPinned = true;
         list_.hint = "↑↓ jiná vlastnost · Tab její pole · Esc zpět beze změny";
         list_.before = [](const Event& event) { return event.kind == Event::Kind::Character; };  // nothing to search in
         temperature_.hint = "Enter vypočítá hodnotu před změnou a po ní · Tab dál · Esc zpět beze změny";
@@ -81,7 +83,7 @@ class CorrectionView {
         temperatureCaption_.area = {row, 1, 1, captionWidth};
         temperature_.area = {row++, 1 + captionWidth, 1, 12};
         values_.area = {row, 1, values_.rowsIn(width), width};
-        dialog_.pinnedRows = placeInRows({&compute_, &save_, &back_}, 0, page.columns);
+        dialog_.pinnedRows = placeInRows({&compute_, &save_, &restore_, &back_}, 0, page.columns);
     }
 
     frmOprav& form_;
@@ -95,6 +97,7 @@ class CorrectionView {
     Label& values_;
     Button& compute_;
     Button& save_;
+    Button& restore_;
     Button& back_;
 };
 

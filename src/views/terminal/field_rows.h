@@ -40,7 +40,7 @@ class FieldRows {
 
     void place(int row, int column, int captionWidth, int boxWidth) {
         for (std::size_t field = 0; field < boxes_.size(); ++field, ++row) {
-            captions_[field]->area = {row, column, 1, captionWidth};
+            captions_[field]->area = {row, column, 1, captionWidth - 1};
             boxes_[field]->area = {row, column + captionWidth, 1, boxWidth};
         }
     }

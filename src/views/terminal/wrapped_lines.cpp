@@ -23,7 +23,6 @@ std::size_t fittingBytes(std::string_view text, int width) {
 }
 
 void wrap(std::string_view line, int width, std::vector<std::string>& lines) {
-    if (line.starts_with("  ")) return lines.push_back(cutTo(std::string(line), width));
     while (columnsOf(line) > width) {
         std::size_t end = fittingBytes(line, width);
         const std::size_t blank = line.rfind(' ', end);
@@ -35,13 +34,53 @@ void wrap(std::string_view line, int width, std::vector<std::string>& lines) {
     lines.emplace_back(line);
 }
 
+constexpr std::string_view kColumnGap = "  ", kDeeper = "    ";
+
+std::vector<std::string_view> cellsOf(std::string_view row) {
+    std::vector<std::string_view> cells;
+    while (!row.empty()) {
+        const std::size_t end = std::min(row.find(kColumnGap), row.size());
+        if (end > 0) cells.push_back(row.substr(0, end));
+        row.remove_prefix(std::min(row.find_first_not_of(' ', end), row.size()));
+    }
+    return cells;
+}
+
+// A row that does not fit gives up its alignment and takes more lines; no cell is cut. They are filled from the end, so
+// that a unit stays with its value.
+void wrapRow(std::string_view row, int width, std::vector<std::string>& lines) {
+    if (columnsOf(row) <= width) {
+        lines.emplace_back(row);
+        return;
+    }
+    const int room = width - columnsOf(kDeeper);
+    std::vector<std::string> parts;
+    for (const std::string_view cell : cellsOf(row)) parts.emplace_back(cell);
+    for (std::size_t last = parts.size(); last-- > 1;) {
+        const std::string both = parts[last - 1] + std::string(kColumnGap) + parts[last];
+        if (columnsOf(both) > room) continue;
+        parts[last - 1] = both;
+        parts.erase(parts.begin() + static_cast<std::ptrdiff_t>(last));
+    }
+    std::string_view indent = kColumnGap;
+    for (const std::string& part : parts) {
+        std::vector<std::string> wrapped;
+        wrap(part, std::max(1, room), wrapped);
+        for (const std::string& line : wrapped) {
+            lines.push_back(std::string(indent) + line);
+            indent = kDeeper;
+        }
+    }
+}
+
 }  // namespace
 
 std::vector<std::string> wrappedLines(std::string_view text, int width) {
     std::vector<std::string> lines;
     for (;;) {
         const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
-        wrap(text.substr(0, end), std::max(1, width), lines);
+        const std::string_view line = text.substr(0, end);
+        (line.starts_with(kColumnGap) ? wrapRow : wrap)(line, std::max(1, width), lines);
         if (end == text.size()) return lines;
         const std::size_t length = text.substr(end).starts_with("\r\n") ? 2 : 1;
         text.remove_prefix(end + length);
