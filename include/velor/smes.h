@@ -5,7 +5,8 @@
 // Failures are shown to the user and told by return values; ChyboveHlasky chooses how:
 //   -1  message boxes and a raised error (RunTimeError::kRaisedToHost)      0  message boxes (the default)
 //    1  no message boxes of the correlation engine                          2  none of the mixture functions either
-// At most MaxErrHlas counted boxes are shown in an object's life. Errors raised to the caller are RunTimeError.
+// At most MaxErrHlas counted boxes are shown in an object's life. Errors raised to the caller are RunTimeError. A host
+// without a person in front of it sets Tichy.
 //
 // One object serves one thread; objects in different threads never meet.
 #pragma once
@@ -67,6 +68,19 @@ class Smes {
 
     // Counted message boxes shown so far; it only grows.
     int PocHlasek() const;
+
+    // 1: there is no person. No box and no form is shown, a question gets No (nothing is deleted), an input raises
+    // error 62, a form is closed as if by Back (ZadejSloz then leaves no components); the drives are not searched, so
+    // that without a CFG file there is no database; bubble and dew points always end after 50 steps. Values, errors and
+    // PocHlasek are as ever. 0, as built: the person is told and asked. Any other 16-bit number is taken for 1.
+    // DefSmes, DefSlozky and ResetujSmes, which set ChyboveHlasky anew, leave it.
+    int Tichy() const;
+    void Tichy(int value);
+
+    // While Tichy is 1, the last text that the last call would have shown; empty when it would have shown none. A call
+    // that defines, loads, computes or shows begins with it empty; reading a setting, a constant or a kept result
+    // leaves it. What ChyboveHlasky or a spent MaxErrHlas suppresses is not kept either.
+    std::string PosledniHlaska() const;
 
     // Temperature function of the equation of state: 0 Redlich-Kwong, any other value Soave.
     int Redlich() const;
@@ -347,8 +361,8 @@ class Smes {
 
     // Bubble and dew point of the ideal mixture (Raoult's law) at P pascals, K, by Newton's method to 0.02 K. After
     // more than 50 steps a message tells the divergence, and TBV returns 0, TRB its last estimate. While messages are
-    // off (mode 2) or the budget is spent there is no limit: such a call may not return. Run-time errors are trapped
-    // (Empty).
+    // off (mode 2) or the budget is spent there is no limit, unless Tichy is 1: such a call may not return. Run-time
+    // errors are trapped (Empty).
     Variant TBV(const Variant& P, const Variant& X);
     Variant TRB(const Variant& P, const Variant& Y);
 
@@ -362,7 +376,7 @@ class Smes {
     // Czech report: lines ended by CR LF, columns separated by TAB; after 30 passes without convergence only its
     // heading. The report's first pressure is the vapour pressure that the last iterated flash kept. Errors reach the
     // caller: 11 a singular step, 9 more than 20 fractions, 13 a real-gas enthalpy that could not be computed, 62
-    // nobody answers. It calls TBV and TRB: where messages are off or spent the call may not return.
+    // nobody answers. It calls TBV and TRB: where messages are off or spent and Tichy is 0 the call may not return.
     std::string FLASH(int mode, Variant& T, Variant& P, const Variant& Z);
 
     // The last flash as numbers.

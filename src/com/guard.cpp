@@ -3,7 +3,8 @@
 #include <windows.h>
 #include <xmmintrin.h>
 
-#include <cfenv>
+#include <array>
+#include <cstdint>
 #include <new>
 #include <string>
 #include <string_view>
@@ -17,16 +18,17 @@ namespace velor::com {
 
 namespace {
 
-// Hosts may have unmasked floating-point traps or chosen another precision or rounding.
+// Hosts may have unmasked floating-point traps or chosen another precision or rounding. By the instructions themselves:
+// the C library's functions ask the processor for its kind each time, which a virtual machine answers in microseconds.
 class DefaultFloatingPoint {
   public:
     DefaultFloatingPoint() {
-        std::fegetenv(&host_);
-        std::fesetenv(FE_PC64_ENV);  // the x87 unit alone: the mathematical functions need its full precision
+        // With the full precision that the mathematical functions need, everything masked.
+        asm volatile("fnstenv %0\n\tfninit" : "=m"(host_)::"memory");
         _mm_setcsr(kDefaultMxcsr);
     }
     ~DefaultFloatingPoint() {
-        std::fesetenv(&host_);
+        asm volatile("fldenv %0" ::"m"(host_) : "memory");
         _mm_setcsr(hostMxcsr_);
     }
     DefaultFloatingPoint(const DefaultFloatingPoint&) = delete;
@@ -35,8 +37,8 @@ class DefaultFloatingPoint {
   private:
     static constexpr unsigned kDefaultMxcsr = 0x1F80;  // everything masked, to the nearest, subnormals kept
 
-    unsigned hostMxcsr_ = _mm_getcsr();  // the functions of the C library leave it out
-    std::fenv_t host_{};
+    unsigned hostMxcsr_ = _mm_getcsr();
+    std::array<std::uint32_t, 7> host_;  // the x87 unit's control, status and tags, and its last instruction
 };
 
 // Where even this fails the host still has the code.

@@ -30,6 +30,7 @@ constexpr auto kNsloz = [](Smes& smes, const auto&... a) { return smes.Nsloz(a..
 constexpr auto kBod = [](Smes& smes, const auto&... a) { return smes.Bod(a...); };
 constexpr auto kNazev = [](Smes& smes, const auto&... a) { return smes.Nazev(a...); };
 constexpr auto kSNazev = [](Smes& smes, const auto&... a) { return smes.SNazev(a...); };
+constexpr auto kTichy = [](Smes& smes, const auto&... a) { return smes.Tichy(a...); };
 
 void writeNazev(Smes& smes, int i, const Variant& name) { smes.Nazev(i, name.toText()); }
 
@@ -331,6 +332,10 @@ class SmesObject final : public ISmes, public ISupportErrorInfo {
     STDMETHODIMP Vlastnost(BSTR Name, VARIANT X, VARIANT T, VARIANT P, VARIANT* result) override {
         return answer(result, &Smes::Vlastnost, Name, X, T, P);
     }
+
+    STDMETHODIMP get_Tichy(short* result) override { return answer(result, kTichy); }
+    STDMETHODIMP put_Tichy(short value) override { return run(kTichy, value); }
+    STDMETHODIMP get_PosledniHlaska(BSTR* result) override { return answer(result, &Smes::PosledniHlaska); }
 
   private:
     // Every member: convert the arguments, call, give back what changed.

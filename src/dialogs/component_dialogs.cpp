@@ -85,6 +85,7 @@ void fill(frmLatka& form, const State& state, int i) {
 }  // namespace
 
 void Smes::mSloz_ZobrazL(int i) {
+    const PublicCall call(*state_);
     State& state = *state_;
     if (!isAtHand(state, checkedInt16(i))) return;
     frmLatka& form = *formsOf(state).display;
@@ -98,6 +99,7 @@ void Smes::mSloz_ZobrazL(int i) {
 }
 
 void Smes::mSloz_ZobrazZ(int i) {
+    const PublicCall call(*state_);
     State& state = *state_;
     if (!isAtHand(state, checkedInt16(i))) return;
     const auto exclaim = [&state](const std::string& text) { show(state.messages, text, Icon::Exclamation); };

@@ -14,7 +14,7 @@ namespace {
 std::unique_ptr<State> newState(UserInterface& userInterface) {
     auto state = std::make_unique<State>();
     state->dialogs = std::make_unique<Forms>();
-    state->messages.userInterface = &userInterface;
+    state->person = state->messages.userInterface = &userInterface;
     state->place.CFGPath = platform::libraryFolder();
     return state;
 }

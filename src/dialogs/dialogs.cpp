@@ -66,7 +66,10 @@ Lines askedLines(const State& state, const Lines& lines) {
 
 }  // namespace
 
-void Smes::AkSeznam() { rebuildSubstanceList(*state_); }
+void Smes::AkSeznam() {
+    const PublicCall call(*state_);
+    rebuildSubstanceList(*state_);
+}
 
 std::string Smes::SeznamLatek(int i) const {
     if (i < 1 || i > state_->list.PocLatek) checked::raise(RunTimeError::kSubscript);
@@ -82,6 +85,7 @@ int Smes::PocLatek() const { return state_->list.PocLatek; }
 int Smes::RezimSeznamu() const { return state_->list.RezimSeznamu; }
 
 void Smes::SeznamShow(const Variant& mode) {
+    const PublicCall call(*state_);
     State& state = *state_;
     state.list.RezimSeznamu = mode.isMissing() ? std::int16_t{-1} : mode.toInt16();
     buildListForDialog(state);

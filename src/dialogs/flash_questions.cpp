@@ -89,6 +89,7 @@ std::vector<double> feedOf(const State& state, const Variant& Z) {
 }  // namespace
 
 std::string Smes::FLASH(int mode, Variant& T, Variant& P, const Variant& Z) {
+    const PublicCall call(*state_);
     State& state = *state_;
     const bool interactive = checkedInt16(mode) < 0;
     state.last.flash = {};

@@ -95,6 +95,7 @@ void copyTo(Variant& array, const std::vector<double>& fractions) {
 }  // namespace
 
 void Smes::ZadejSmes() {
+    const PublicCall call(*state_);
     State& state = *state_;
     state.definition.Nacteno = 0;
     buildListForDialog(state);
@@ -112,6 +113,7 @@ void Smes::ZadejSmes() {
 }
 
 void Smes::mZadSmes_SZavrit(const CislaLatek& numbers) {
+    const PublicCall call(*state_);
     State& state = *state_;
     formsOf(state).components->visible = false;
     const std::int16_t n = numbers[0];
@@ -127,6 +129,7 @@ void Smes::mZadSmes_SZavrit(const CislaLatek& numbers) {
 }
 
 void Smes::ZadejSloz(Variant& n, Variant& X, Variant& W, const Variant&, const Variant& mode) {
+    const PublicCall call(*state_);
     State& state = *state_;
     F_Sloz& form = *formsOf(state).composition;
     loadComponents(state);  // so that names and molar masses are those of the mixture defined

@@ -125,6 +125,7 @@ float Smes::VLRConst(int i, int k, int j) const {
 }
 
 void Smes::VLRConst(int i, int k, int j, const Variant& value) {
+    const PublicCall call(*state_);
     requireInt16({i, k, j});
     const float number = value.toSingle();
     if (!addressesBlock(state_->definition, i, k)) {
@@ -161,6 +162,7 @@ float Smes::Bod(int i, int k) const {
 }
 
 void Smes::Bod(int i, int k, const Variant& value) {
+    const PublicCall call(*state_);
     const float constant = value.toSingle();
     if (!addressesConstant(state_->definition, i, k)) {
         showUnlessSilent(state_->messages, "Bod( ) - chybné zadání!", Icon::Exclamation);

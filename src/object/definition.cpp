@@ -56,6 +56,7 @@ void copyNumbers(State& state, const Variant& Cisla) {
 }  // namespace
 
 void Smes::DefSlozky(const Variant& Cisla) {
+    const PublicCall call(*state_);
     State& state = *state_;
     attempt(state, [&] {
         if (Cisla.upperBound() < Cisla.lowerBound())
@@ -67,6 +68,7 @@ void Smes::DefSlozky(const Variant& Cisla) {
 }
 
 void Smes::DefSmes(int N, const Variant& Cisla) {
+    const PublicCall call(*state_);
     State& state = *state_;
     // The quiet mode is tested on a count that is not yet assigned: messages are always switched on, as designed.
     state.messages.ChyboveHlasky = 0;
@@ -78,6 +80,7 @@ void Smes::DefSmes(int N, const Variant& Cisla) {
 }
 
 void Smes::ZapisNslozky(int i, int n) {
+    const PublicCall call(*state_);
     const std::int16_t number = checkedInt16(n);
     if (checkedInt16(i) < 1 || i > ComponentSlots::kCount) {
         showUnlessSilent(state_->messages, "Index složky mimo meze!", Icon::Critical);
@@ -88,6 +91,7 @@ void Smes::ZapisNslozky(int i, int n) {
 }
 
 void Smes::ResetujSmes() {
+    const PublicCall call(*state_);
     State& state = *state_;
     state.definition.PocSlozek = 0;
     state.definition.Nacteno = 0;

@@ -55,6 +55,9 @@ void tellLoadFailure(const State& state) {
     showUnlessSilent(state.messages, "Nemohu načíst z " + state.place.DataFileName + "!", Icon::Critical);
 }
 
-Variant Smes::Inivlr() { return loadComponents(*state_); }
+Variant Smes::Inivlr() {
+    const PublicCall call(*state_);
+    return loadComponents(*state_);
+}
 
 }  // namespace velor

@@ -87,12 +87,18 @@ std::string searchVolumes(const DatabasePlace& place) {
     return {};
 }
 
-void searchAndConfigure(DatabasePlace& place, const Messages& messages) {
+// Minutes without a word are for nobody: where nobody is told nothing is searched.
+std::string announcedSearch(const DatabasePlace& place, const Messages& messages) {
+    if (messages.Tichy != 0) return {};
     show(messages,
          "Budu nyní hledat datový soubor " + place.DataFileName + " na všech pevných discích" + kLineBreak +
              "Může to trvat i několik minut! Stiskněte OK a vyčkejte.",
          Icon::Information, "Instalace VELOR");
-    const std::string found = searchVolumes(place);
+    return searchVolumes(place);
+}
+
+void searchAndConfigure(DatabasePlace& place, const Messages& messages) {
+    const std::string found = announcedSearch(place, messages);
     if (found.empty()) {
         place.AdresaBaze.clear();
         show(messages,
@@ -138,6 +144,9 @@ void locateDatabase(DatabasePlace& place, const Messages& messages) {
     }
 }
 
-void Smes::Adrvlr() { locateDatabase(state_->place, state_->messages); }
+void Smes::Adrvlr() {
+    const PublicCall call(*state_);
+    locateDatabase(state_->place, state_->messages);
+}
 
 }  // namespace velor

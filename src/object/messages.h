@@ -11,7 +11,8 @@ namespace velor {
 
 // Who is told, which messages are wanted and how many there were.
 struct Messages {
-    UserInterface* userInterface = nullptr;
+    UserInterface* userInterface = nullptr;  // the person's or, while Tichy is 1, nobody's
+    std::int16_t Tichy = 0;
     std::int16_t ChyboveHlasky = 0;
     std::int16_t PocHlasek = 0;
     std::int16_t MaxErrHlas = 20;
@@ -33,6 +34,10 @@ inline bool engineMessageIsDue(const Messages& messages) {
 inline bool mixtureMessageIsDue(const Messages& messages) {
     return messages.ChyboveHlasky < 2 && messages.PocHlasek < messages.MaxErrHlas;
 }
+
+// Whether a search without a solution ends. The message that tells its end is its only limit, as built; where nobody
+// can stop the program it ends all the same.
+inline bool mayGiveUp(const Messages& messages) { return messages.Tichy != 0 || mixtureMessageIsDue(messages); }
 
 // Shows a message and counts it. The caller has made sure that it is due.
 void showCounted(Messages& messages, std::string text, Icon icon, std::string title = "VELOR");

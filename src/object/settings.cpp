@@ -25,6 +25,7 @@ std::string Smes::CFGName() const { return state_->place.CFGName; }
 void Smes::CFGName(const std::string& name) { state_->place.CFGName = name; }
 
 std::string Smes::AdrVELOR() {
+    const PublicCall call(*state_);
     if (state_->place.AdresaBaze.empty()) locateDatabase(state_->place, state_->messages);
     return state_->place.AdresaBaze;
 }
@@ -44,6 +45,15 @@ void Smes::MaxErrHlas(int limit) {
 }
 
 int Smes::PocHlasek() const { return state_->messages.PocHlasek; }
+
+int Smes::Tichy() const { return state_->messages.Tichy; }
+void Smes::Tichy(int value) {
+    // Any number but 0, so that the True of every language is taken.
+    state_->messages.Tichy = checkedInt16(value) != 0 ? 1 : 0;
+    state_->messages.userInterface = value != 0 ? &state_->nobody : state_->person;
+}
+
+std::string Smes::PosledniHlaska() const { return state_->nobody.lastText; }
 
 int Smes::Redlich() const { return state_->settings.Redlich; }
 void Smes::Redlich(int choice) { state_->settings.Redlich = checkedInt16(choice); }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "object/messages.h"
+#include "object/nobody.h"
 #include "object/slots.h"
 #include "velor/flash_record.h"
 #include "velor/substances.h"
@@ -102,6 +103,9 @@ class Dialogs {
 
 struct State {
     std::unique_ptr<UserInterface> ownUserInterface;  // where the host brought none
+    UserInterface* person = nullptr;
+    Nobody nobody;
+    int publicCalls = 0;  // that are not done yet: a method may use another one
     Messages messages;
     Settings settings;
     Definition definition;
@@ -110,6 +114,20 @@ struct State {
     LastResults last;
     Prepared prepared;
     std::unique_ptr<Dialogs> dialogs;
+};
+
+// A public method that may show something, from its begin to its end. The outermost one starts with no last text.
+class PublicCall {
+  public:
+    explicit PublicCall(State& state) : calls_(state.publicCalls) {
+        if (calls_++ == 0) state.nobody.lastText.clear();
+    }
+    ~PublicCall() { --calls_; }
+    PublicCall(const PublicCall&) = delete;
+    PublicCall& operator=(const PublicCall&) = delete;
+
+  private:
+    int& calls_;
 };
 
 }  // namespace velor

@@ -70,6 +70,7 @@ std::optional<double> trapped(const Messages& messages, const Title& title, cons
 // The public method around a body: the records are loaded first, inside the trap. Empty after an error.
 template <class Title, class Body>
 Variant trappedMethod(State& state, const Title& title, const Body& body) {
+    const PublicCall call(state);
     return asVariant(trapped(state.messages, title, [&]() -> std::optional<double> {
         loadComponents(state);
         return body();
@@ -79,6 +80,7 @@ Variant trappedMethod(State& state, const Title& title, const Body& body) {
 // The same for a method without a trap.
 template <class Body>
 Variant method(State& state, const Body& body) {
+    const PublicCall call(state);
     loadComponents(state);
     const std::optional<double> value = body();
     if (value) checked::finite(*value);

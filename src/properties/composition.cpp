@@ -35,6 +35,7 @@ using Conversion = void (*)(std::span<const double>, std::span<const double>, st
 
 // Fractions that are zero take part; no count of the others is checked, deliberately.
 Variant convert(State& state, const Variant& from, Variant& to, Conversion conversion) {
+    const PublicCall call(state);
     if (state.definition.PocSlozek <= 0) return kNoConversion;
     const std::vector<double> given = readFractions(state, from);
     std::vector<double> converted(given.size());
@@ -64,6 +65,7 @@ Variant Smes::VSM(const Variant& X) {
 }
 
 void Smes::Normal(Variant& X) const {
+    const PublicCall call(*state_);
     std::vector<double> x = readFractions(*state_, X);
     if (!(std::abs(1.0 - sumOf(x)) > kFractionTolerance)) return;
     normalise(x);
@@ -71,6 +73,7 @@ void Smes::Normal(Variant& X) const {
 }
 
 Variant Smes::KsumX(const Variant& X) {
+    const PublicCall call(*state_);
     State& state = *state_;
     const double sum = checked::finite(sumOf(readFractions(state, X)));
     // A sum of exactly 0 means that no composition was given, and is accepted.

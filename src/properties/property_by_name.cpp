@@ -20,6 +20,7 @@ bool isAboveNothing(const Variant& value) { return value.isEmpty() || value.toDo
 }  // namespace
 
 Variant Smes::Vlastnost(const std::string& Name, const Variant& X, const Variant& T, const Variant& P) {
+    const PublicCall call(*state_);
     State& state = *state_;
     const MixtureProperty* const property = findMixtureProperty(Name);
     // One statement under the trap, which resumes behind it.

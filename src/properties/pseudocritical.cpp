@@ -77,6 +77,7 @@ Pseudocritical PSEUD(State& state, const Composition& X) {
 }
 
 Variant Smes::PSEUD(const Variant& X, const std::string& Sel) {
+    const PublicCall call(*state_);
     State& state = *state_;
     loadComponents(state);
     const std::string choice = upperCase(Sel);
@@ -90,6 +91,7 @@ Variant Smes::PSEUD(const Variant& X, const std::string& Sel) {
 }
 
 void Smes::PseudShow(const Variant& X) {
+    const PublicCall call(*state_);
     PSEUD(X, "");
     const State& state = *state_;
     const std::string end(kLineBreak);

@@ -135,6 +135,7 @@ std::string_view propertyName(int k) {
 }
 
 Variant Smes::FFce(const Variant& T, int i, int k) {
+    const PublicCall call(*state_);
     requireInt16({i, k});
     if (!exists(*state_, i, k) && rejects(*state_, i, k)) return 0.0;
     return valueOf(*state_, [&] { return evaluate(*state_, T.toDouble(), i, k); });

@@ -41,10 +41,10 @@ double saturationTemperature(State& state, const Method& method, double P, const
         return above - (messagesShown ? FFce(state, T, component, kTENS) : Ps);
     };
     const SaturationPoint point = saturationPoint(method.kind, P, x.first(n), Tc.first(n), vapourPressure, rise,
-                                                  [&] { return mixtureMessageIsDue(state.messages); });
+                                                  [&] { return mayGiveUp(state.messages); });
     state.last.*method.outcome = point.diverged ? SaturationOutcome::Diverged : SaturationOutcome::Converged;
     if (!point.diverged) return point.temperature;
-    showCounted(state.messages, method.divergence, Icon::Exclamation);
+    if (mixtureMessageIsDue(state.messages)) showCounted(state.messages, method.divergence, Icon::Exclamation);
     // After a divergence the bubble point answers 0 and the dew point its last estimate; both are meant.
     return method.kind == Saturation::Bubble ? 0.0 : point.temperature;
 }

@@ -66,6 +66,16 @@ TEST_F(LocateTest, asksBeforeItDeletesTheConfiguration) {
             EXPECT_EQ(boxes.messages, std::vector{missingQuestion()}) << path;
             EXPECT_EQ(fs::exists(configuration), answer == Answer::No);
         }
+    // Nobody answers: it stays. Nor would anybody wait for a search.
+    smes.Tichy(1);
+    configure(folder / "gone/VELOR.DRC");
+    boxes.nextAnswers = {Answer::Yes};
+    EXPECT_EQ(smes.AdrVELOR(), "");
+    EXPECT_EQ(smes.PosledniHlaska(), missingQuestion().text);
+    EXPECT_TRUE(fs::remove(configuration));
+    folder.write("c/VELOR.DRC", kDatabase);
+    EXPECT_EQ(smes.AdrVELOR(), "");
+    EXPECT_EQ(smes.PosledniHlaska().substr(0, 6), "Lituji");
 }
 
 TEST_F(LocateTest, refusesAShortDatabase) {

@@ -28,6 +28,7 @@ class ChangeView : public FormWindow {
         showText(control(ZMENAZ_NAVOD), form_.Navod);
         showText(control(ZMENAZ_C_OK), form_.C_OKCaption);
         showText(control(ZMENAZ_C_DATA), form_.C_DataCaption);
+        showText(control(ZMENAZ_C_OBNOVIT), form_.C_ObnovitCaption);
         showText(control(ZMENAZ_C_ZPET), form_.C_ZpetCaption);
         int id = ZMENAZ_L_POLE;
         for (const std::string& caption : form_.L_Pole) showText(control(id++), caption);
@@ -42,6 +43,7 @@ class ChangeView : public FormWindow {
     void clicked(int id) override {
         if (id == ZMENAZ_C_OK) form_.clickC_OK();
         if (id == ZMENAZ_C_DATA) form_.clickC_Data();
+        if (id == ZMENAZ_C_OBNOVIT) form_.clickC_Obnovit();
         if (id == ZMENAZ_C_ZPET) form_.clickC_Zpet();
     }
     void textChanged(int id, std::string text) override { form_.setText(id - ZMENAZ_T_POLE, std::move(text)); }

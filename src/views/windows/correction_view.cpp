@@ -40,6 +40,7 @@ class CorrectionView : public FormWindow {
         showText(control(OPRAV_PRED_POPIS), form_.PredPopis);
         showText(control(OPRAV_PO_POPIS), form_.PoPopis);
         showText(control(OPRAV_C_OK), form_.C_OKCaption);
+        showText(control(OPRAV_C_OBNOVIT), form_.C_ObnovitCaption);
         showText(control(OPRAV_C_ZPET), form_.C_ZpetCaption);
         int id = OPRAV_L_POLE;
         for (const std::string& caption : form_.L_Pole) showText(control(id++), caption);
@@ -62,6 +63,7 @@ class CorrectionView : public FormWindow {
     void clicked(int id) override {
         if (id == OPRAV_C_VYPOCET) form_.clickC_Vypocet();
         if (id == OPRAV_C_OK) form_.clickC_OK();
+        if (id == OPRAV_C_OBNOVIT) form_.clickC_Obnovit();
         if (id == OPRAV_C_ZPET) form_.clickC_Zpet();
     }
     // The focus stays in the list, so that the arrows can walk on through it.

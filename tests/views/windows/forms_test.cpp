@@ -153,7 +153,10 @@ TEST_F(NativeForms, componentIsChangedForTheTime) {
                  composition.clickName(SLOZ_L_J, WM_RBUTTONDOWN, WM_RBUTTONUP);
                  const Window names(kChange);
                  names.expectFocus(ZMENAZ_T_POLE);
-                 names.type(ZMENAZ_T_POLE, "Živá voda");
+                 names.type(ZMENAZ_T_POLE, "Mrtvá voda");
+                 names.pressAlt(ZMENAZ_T_POLE, L'o');  // back to the database
+                 names.expectText(ZMENAZ_T_POLE, std::string(trimBlanks(smes.Nazev(1).toText())));
+                 names.replaceText(ZMENAZ_T_POLE, "Živá voda");
                  names.replaceText(ZMENAZ_T_POLE + F_Zmenaz::kFirstConstant, "nic");
                  names.click(ZMENAZ_C_DATA);
                  const Window message(kMessageBox);
@@ -168,6 +171,9 @@ TEST_F(NativeForms, componentIsChangedForTheTime) {
                  data.expectFocus(OPRAV_L_VLAST);
                  data.replaceText(OPRAV_T_POLE, "1");
                  data.expectText(OPRAV_VZTAH, "y = A1 + A2.T   přímka");
+                 data.click(OPRAV_C_OBNOVIT);
+                 data.expectText(OPRAV_T_POLE, std::to_string(static_cast<int>(smes.VLRConst(1, 2, 7))));
+                 data.replaceText(OPRAV_T_POLE, "1");
                  data.press(OPRAV_T_POLE, VK_RETURN);
                  data.expectFocus(OPRAV_T_POLE + 1);
                  data.type(OPRAV_T_POLE + 1, "77");
