@@ -3,7 +3,7 @@
 set -euo pipefail
 cd "$1"
 
-rooms="runtime rules platform records object properties table dialogs views com"
+rooms="runtime rules platform records object properties table dialogs views com c"
 wrong=$(grep -rn '^#include "' src --include=*.cpp --include=*.h | awk -v rooms="$rooms" '
     BEGIN { split(rooms, names, " "); for (i in names) floor[names[i]] = i + 0; floor["velor"] = 0 }
     {

@@ -110,6 +110,9 @@ example() {
         # The text that the example promises at its end.
         diff <(sed -n 's|^// > ||p' "$name") <(echo "$output")
     done
+    cc -std=c99 -pedantic -Wall -Wextra -Werror "$source/examples/table.c" -o "$work/table" $(flags --cflags --libs)
+    LD_LIBRARY_PATH=$(library_folder) run "$work/table" "$prefix/share/velor/VELOR.DRC" |
+        grep -E '^  300\.0 +0\.50 +8[0-9]{2}\.[0-9]{3}  v rozsahu$'
 }
 
 command() {
