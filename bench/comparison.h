@@ -63,5 +63,6 @@ void addSaturation();
 void addRealGas();
 void addByName();
 void addFlash();
+void addTable();
 
 }  // namespace velor::bench

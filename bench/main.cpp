@@ -13,5 +13,6 @@ int main(int argc, char** argv) {
     addRealGas();
     addByName();
     addFlash();
+    addTable();
     benchmark::RunSpecifiedBenchmarks();
 }

@@ -1,6 +1,5 @@
 #include "object/locate.h"
 
-#include <algorithm>
 #include <utility>
 
 #include "object/configuration_file.h"
@@ -52,14 +51,7 @@ void offerToDeleteDatabase(const Messages& messages, const std::string& path, st
     if (show(messages, text, Icon::None, "VELOR", Buttons::YesNo) == Answer::Yes) platform::deleteFile(path);
 }
 
-std::string extensionOf(const std::string& name) { return name.substr(std::min(name.rfind('.'), name.size())); }
-
-// A CFG file can give any file the database's name; it must not make the user delete one that is no database.
-bool mayOfferDeletion(const DatabasePlace& place, const std::string& usualName) {
-    return equalIgnoringCase(extensionOf(place.DataFileName), extensionOf(usualName));
-}
-
-void checkDatabase(DatabasePlace& place, const Messages& messages, const std::string& usualName) {
+void checkDatabase(DatabasePlace& place, const Messages& messages) {
     const std::string entry = platform::fileName(place.AdresaBaze);
     if (entry.empty() || !equalIgnoringCase(entry, place.DataFileName)) {
         place.AdresaBaze.clear();
@@ -69,7 +61,8 @@ void checkDatabase(DatabasePlace& place, const Messages& messages, const std::st
     const std::int64_t size = platform::ReadOnlyFile(place.AdresaBaze).size();
     if (size >= kLeastDatabaseSize) return;
     const std::string refused = std::exchange(place.AdresaBaze, {});
-    if (mayOfferDeletion(place, usualName)) {
+    // A CFG file can give any file the database's name; it must not make the user delete one that is no database.
+    if (equalIgnoringCase(place.DataFileName, place.usualFileName)) {
         offerToDeleteDatabase(messages, refused, size);
     } else {
         show(messages, tooSmallText(refused, size), Icon::None, "VELOR");
@@ -133,9 +126,8 @@ void locateDatabase(DatabasePlace& place, const Messages& messages) {
             searchAndConfigure(place, messages);
             return;
         }
-        const std::string usualName = place.DataFileName;
         adoptOtherFileName(place);
-        checkDatabase(place, messages, usualName);
+        checkDatabase(place, messages);
     } catch (const RunTimeError& error) {
         show(messages, "Chyba č. " + std::to_string(error.number()) + " : " + error.description(), Icon::Exclamation,
              "VELOR Adrvlr");

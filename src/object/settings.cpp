@@ -13,7 +13,7 @@ namespace velor {
 
 std::string Smes::DataFileName() const { return state_->place.DataFileName; }
 void Smes::DataFileName(const std::string& name) {
-    if (!name.empty()) state_->place.DataFileName = name;
+    if (!name.empty()) state_->place.DataFileName = state_->place.usualFileName = name;
 }
 
 std::string Smes::CFGPath() const { return state_->place.CFGPath; }

@@ -40,7 +40,8 @@ struct Definition {
 // Where the database is, or is to be looked for.
 struct DatabasePlace {
     std::string AdresaBaze;
-    std::string DataFileName = "VELOR.DRC";
+    std::string DataFileName = "VELOR.DRC";  // the usual one or that of a path that ends in "#"
+    std::string usualFileName = DataFileName;
     std::string CFGPath;
     std::string CFGName = "VELOR.CFG";
     std::optional<std::vector<std::string>> volumes;  // none: the system is asked when they are needed

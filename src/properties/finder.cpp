@@ -64,6 +64,14 @@ bool holdsWordsFrom(std::string_view text, std::string_view part) {
     return false;
 }
 
+// Whether the part is a name but for the end of its last word: what a further word makes of it nobody can know
+// ("cumene", "Cumene hydroperoxide").
+bool lacksOnlyEnd(std::string_view text, std::string_view part) {
+    for (std::size_t at = text.find(part); at != std::string_view::npos; at = text.find(part, at + 1))
+        if (beginsWord(text, at) && text.find(' ', at + part.size()) == std::string_view::npos) return true;
+    return false;
+}
+
 Criterion begunBy(const std::string& part) {
     return [part](const Substance& s) {
         return holdsWordsFrom(folded(s.name), part) || holdsWordsFrom(folded(s.synonym), part);
@@ -95,6 +103,18 @@ Matches wholeMatches(const SubstanceList& substances, std::string_view wanted) {
     return {};
 }
 
+// The letters, and behind them the digits: the same wherever a locant stands ("2-propanol", "propan-2-ol").
+std::string withLocantsBehind(std::string_view name) {
+    std::string letters, digits;
+    for (const char c : name) {
+        if (c >= '0' && c <= '9')
+            digits += c;
+        else if (c != '-' && c != ' ')
+            letters += c;
+    }
+    return letters + digits;
+}
+
 // Names that differ from the wanted one by a slip or two.
 Matches similarTo(const SubstanceList& substances, std::string_view wanted) {
     const std::string name = folded(wanted);
@@ -104,7 +124,8 @@ Matches similarTo(const SubstanceList& substances, std::string_view wanted) {
         std::size_t least = slips + 1;
         for (const auto& [text, other, isSimple] : namesOf(substance))
             if (other.size() <= name.size() + slips && name.size() <= other.size() + slips)
-                least = std::min(least, editDistance(name, other));
+                least = std::min(least,
+                                 withLocantsBehind(name) == withLocantsBehind(other) ? 0 : editDistance(name, other));
         if (least <= slips) ranked.emplace_back(least, &substance);
     }
     std::stable_sort(ranked.begin(), ranked.end(), [](const auto& a, const auto& b) { return a.first < b.first; });
@@ -158,8 +179,10 @@ FoundSubstance searchSubstance(const SubstanceList& substances, std::string_view
         return {whole.size() == 1 ? Finding::Found : Finding::Several, std::move(whole)};
     if (isDigits(text)) return {Finding::UnknownNumber, {}};
     Matches near = nearMatches(substances, text);
-    const bool isOnlyOne = near.size() == 1 && begunBy(folded(text))(*near.front());
-    return {isOnlyOne ? Finding::Interpreted : Finding::Unknown, std::move(near)};
+    const std::string part = folded(text);
+    const bool isClear = near.size() == 1 && (lacksOnlyEnd(folded(near.front()->name), part) ||
+                                              lacksOnlyEnd(folded(near.front()->synonym), part));
+    return {isClear ? Finding::Interpreted : Finding::Unknown, std::move(near)};
 }
 
 std::vector<std::string> splitSubstanceNames(const SubstanceList& substances, std::string_view wanted) {

@@ -16,7 +16,7 @@ struct Raoult {
 
     // An iteration ends within 0.02 K of its solution: of the steepest vapour pressures that is some per cent.
     static constexpr double kTolerance = 0.03;
-    bool isMetastableGas() const { return condensing > 1.0 + kTolerance; }
+    bool isMetastableGas() const { return condensing > 1.003; }  // T and P are given: only rounding is allowed for
 };
 
 // Of n components (from 0). fractionAt(i) may be 0; vapourPressure(i) gives a PropertyValue in pascals; isGas(i)

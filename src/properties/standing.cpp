@@ -25,7 +25,7 @@ constexpr std::array<Words, kStandings> kWords{{
     {"nedáno", "n", "Vlastnost není pro látku v bázi dána."},
     {"bez hodnoty", "r", "Rovnice nemá při této teplotě hodnotu (nad vztažnou teplotou)."},
     {"nekonverguje", "d", "Iterace nekonverguje."},
-    {"chyba", "!", "Při výpočtu nastala chyba, rovnice nemá při této teplotě hodnotu."},
+    {"chyba", "!", "Při výpočtu nastala chyba; v zadaném stavu hodnotu nelze určit."},
 }};
 
 const Words& wordsOf(Standing standing) { return kWords[static_cast<std::size_t>(standing)]; }

@@ -36,7 +36,7 @@ TEST(MixtureInputTest, statesThatAreNoneAreRefused) {
         {"flash", "Chybí povinný údaj --teplota."},
         {"flash -T 300 --interaktivne", "zadejte jen --latky"},
         {"graf TBV -P 1e5 -T 300:310:1 --vystup a.svg", "na teplotě nezávisí"},
-        {"graf ROLW -T 300 --vystup a.svg", "aspoň dvě teploty"},
+        {"graf ROLW -T 300 --vystup a.svg", "aspoň dvě různé teploty"},
         {"graf ROLW -T 300:310:1 --vystup a.pdf", "příponu .svg nebo .png"},
         {"graf ROLW -T 300:310:1", "Chybí povinný údaj --vystup."},
     };

@@ -54,6 +54,16 @@ TEST_F(LocateTest, readsThePathInEveryForm) {
     }
 }
 
+// A CFG file can call any file the database; asked twice, it must not be deleted.
+TEST_F(LocateTest, offersNoOtherFileForDeletion) {
+    const std::string thesis = folder.write("thesis.drc", "short");
+    configure(thesis + "#");
+    boxes.nextAnswers = {Answer::Yes, Answer::Yes};
+    for (int time = 0; time < 2; ++time) EXPECT_EQ(smes.AdrVELOR(), "");
+    EXPECT_TRUE(fs::exists(thesis));
+    for (const Message& message : boxes.messages) EXPECT_EQ(message.buttons, Buttons::Ok) << message.text;
+}
+
 TEST_F(LocateTest, asksBeforeItDeletesTheConfiguration) {
     folder.write("other.bin", kDatabase);
     for (const std::string& path :

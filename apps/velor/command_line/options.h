@@ -57,7 +57,7 @@ void addFlashCommand(CLI::App& program, Arguments& arguments);
 void addGraphCommand(CLI::App& program, Arguments& arguments);
 
 inline constexpr const char* kWaysToName =
-    "číslo v bázi, český nebo jiný název (i jeho jedinečná část,\n"
+    "číslo v bázi, český nebo jiný název (i jeho jednoznačný začátek,\n"
     "bez ohledu na velikost písmen a diakritiku), vzorec, číslo CAS";
 
 CLI::Option* addSubstance(CLI::App* command, Arguments& arguments);

@@ -71,7 +71,8 @@ int typedCount(std::string_view text, std::string_view name, int least, int most
 double typedSeconds(std::string_view text) {
     const double seconds = typedNumber(text, kTimeLimit);
     constexpr double kMost = 1e9;  // beyond any clock's trouble
-    if (!(seconds > 0 && seconds <= kMost)) refuse("Časový limit musí být kladný počet sekund" + given(text));
+    if (!(seconds > 0 && seconds <= kMost))
+        refuse("Časový limit musí být kladný počet sekund, nejvýše 1e9" + given(text));
     return seconds;
 }
 
@@ -120,14 +121,20 @@ std::vector<double> parseRange(std::string_view text) {
                  number(text.substr(second + 1)));
 }
 
-// One comma between digits may separate two temperatures or be the decimal comma of one: nobody is to guess.
+bool isOneNumber(std::string_view text) {
+    try {
+        return parseWholeNumber(text).has_value();
+    } catch (const RunTimeError&) {
+        return false;  // too large, which the items tell
+    }
+}
+
+// One comma may separate two temperatures or be the decimal comma of one: nobody is to guess.
 void refuseAmbiguity(std::string_view text) {
-    const std::size_t comma = text.find(',');
-    if (comma == std::string_view::npos || text.find_first_not_of("0123456789,") != std::string_view::npos) return;
-    if (comma == 0 || comma + 1 == text.size() || text.find(',', comma + 1) != std::string_view::npos) return;
-    const std::string first(text.substr(0, comma)), second(text.substr(comma + 1));
-    refuse("„" + std::string(text) + "“ může být jedna teplota i dvě: jednu zapište " + first + "." + second +
-           ", dvě " + first + ";" + second + ".");
+    const std::vector<std::string> items = splitItems(text);
+    if (items.size() != 2 || text.find(';') != std::string_view::npos || !isOneNumber(text)) return;
+    refuse("„" + std::string(text) + "“ může být jedna teplota i dvě: jednu zapište " + items[0] + "." + items[1] +
+           ", dvě " + items[0] + ";" + items[1] + ".");
 }
 
 }  // namespace

@@ -91,7 +91,8 @@ Picture pictureOf(const std::vector<BoilingPoint>& points, const SubstanceList& 
         liquid.points.push_back(drawn(point.x, point.bubble));
         vapour.points.push_back(drawn(point.x, point.dew));
     }
-    return {title(pair, P), "molový zlomek x, y – " + pair[0].name, "T [K]", {std::move(liquid), std::move(vapour)}};
+    return {
+        title(pair, P), "molový zlomek x, y – " + pair[0].name, "T [K]", {std::move(liquid), std::move(vapour)}, true};
 }
 
 }  // namespace

@@ -95,6 +95,25 @@ constexpr int kAsking = -1;
 
 [[noreturn]] void fail(const std::string& text) { throw Failure(ExitCode::NothingComputed, text); }
 
+// The components that are gases at T kelvin.
+std::vector<std::string> gasesAt(double T, const Mixture& mixture, const MixtureObject& object) {
+    std::vector<std::string> gases;
+    for (std::size_t i = 0; i < mixture.substances.size(); ++i) {
+        const double Tc = object.smes.Tkri(static_cast<int>(i) + 1).toDouble();
+        if (T > Tc)
+            gases.push_back(mixture.substances[i].name + " je nad kritickou teplotou (" + roundedText(Tc) + " K)");
+    }
+    return gases;
+}
+
+// What stands in the way of most flashes that fail.
+std::string gasesInTheWay(double T, const Mixture& mixture, const MixtureObject& object) {
+    std::string lines;
+    for (const std::string& gas : gasesAt(T, mixture, object)) lines += "\n  " + gas + ".";
+    if (!lines.empty()) lines += "\n  Bod varu i rosný bod se hledají jen pod kritickými teplotami všech složek.";
+    return lines;
+}
+
 // What came before an error and may have led to it.
 std::string earlierTrouble(const MixtureObject& object) {
     if (object.smes.lastBubblePoint() == SaturationOutcome::Diverged) return "\n  Bod varu nástřiku nekonverguje.";
@@ -103,7 +122,7 @@ std::string earlierTrouble(const MixtureObject& object) {
     return said.empty() ? "" : "\n  " + said;
 }
 
-FlashAnswer runFlash(MixtureObject& object, int mode, double T, double P) {
+FlashAnswer runFlash(MixtureObject& object, const Mixture& mixture, int mode, double T, double P) {
     Variant temperature = T, pressure = P;
     try {
         FlashAnswer flash;
@@ -112,7 +131,7 @@ FlashAnswer runFlash(MixtureObject& object, int mode, double T, double P) {
         flash.P = pressure.toDouble();
         return flash;
     } catch (const RunTimeError& error) {
-        fail("Flash selhal: " + describe(error) + "." + earlierTrouble(object));
+        fail("Flash selhal: " + describe(error) + "." + earlierTrouble(object) + gasesInTheWay(T, mixture, object));
     }
 }
 
@@ -126,7 +145,7 @@ Standing standingOf(const FlashAnswer& flash, MixtureObject& object, std::string
 }
 
 // Where nothing was iterated all depends on one of the points; without it the phase must be certain in another way.
-void requireCertainPhase(const FlashAnswer& flash, MixtureObject& object) {
+void requireCertainPhase(const FlashAnswer& flash, const Mixture& mixture, MixtureObject& object) {
     const FlashOutcome outcome = flash.record.outcome;
     const bool isAllVapour = outcome == FlashOutcome::AllVapour, isAllLiquid = outcome == FlashOutcome::AllLiquid;
     const Standing decisive = isAllVapour ? flash.dew : isAllLiquid ? flash.bubble : Standing::InRange;
@@ -135,15 +154,15 @@ void requireCertainPhase(const FlashAnswer& flash, MixtureObject& object) {
         stablePhase(object.smes, flash.record.temperature, flash.P, Fractions(flash.record.feed));
     if (stable == (isAllVapour ? StablePhase::Gas : StablePhase::Liquid)) return;
     fail(std::string("Flash nelze vypočítat: ") + (isAllVapour ? "rosný bod" : "bod varu") + " nástřiku" +
-         place(flash) + " nekonverguje.");
+         place(flash) + " nekonverguje." + gasesInTheWay(flash.record.temperature, mixture, object));
 }
 
-void requireResult(const FlashAnswer& flash, MixtureObject& object) {
+void requireResult(const FlashAnswer& flash, const Mixture& mixture, MixtureObject& object) {
     if (flash.record.outcome == FlashOutcome::NotConverged) {
         fail("Flash" + place(flash) + " nekonverguje: ani po " + std::to_string(flash.record.passes) +
              " průchodech není výsledek ustálený.");
     }
-    requireCertainPhase(flash, object);
+    requireCertainPhase(flash, mixture, object);
 }
 
 // What the report leaves unsaid.
@@ -151,25 +170,13 @@ std::vector<std::string> explanations(const FlashAnswer& flash) {
     std::vector<std::string> lines{"Směs je brána za ideální (Raoultův zákon); složení jsou v molových zlomcích."};
     lines.emplace_back(
         flash.record.equilibrium.empty()
-            ? "První tlak v hlášení, tenze par nástřiku, se bez iterace neurčuje (0); flash je při druhém."
-            : "První tlak v hlášení je tenze par nástřiku, flash je při druhém.");
+            ? "První tlak v hlášení (tenze par nástřiku) se zde nepočítá, proto 0; flash platí pro druhý tlak."
+            : "První tlak v hlášení je tenze par nástřiku, flash platí pro druhý tlak.");
     if (flash.bubble != Standing::InRange)
         lines.emplace_back("Bod varu nástřiku nekonverguje; hodnota v hlášení neplatí.");
     if (flash.dew != Standing::InRange)
         lines.emplace_back("Rosný bod nástřiku nekonverguje; hodnota v hlášení neplatí.");
     return lines;
-}
-
-std::vector<std::string> supercriticalNotes(const FlashAnswer& flash, const Mixture& mixture,
-                                            const MixtureObject& object) {
-    std::vector<std::string> notes;
-    for (std::size_t i = 0; i < mixture.substances.size(); ++i) {
-        const double Tc = object.smes.Tkri(static_cast<int>(i) + 1).toDouble();
-        if (mixture.moleFractions[i] == 0 || flash.record.temperature <= Tc) continue;
-        notes.push_back(mixture.substances[i].name + ": teplota " + roundedText(flash.record.temperature) +
-                        " K je nad kritickou (" + roundedText(Tc) + " K), tenze par se bere při 0.98 Tkr.");
-    }
-    return notes;
 }
 
 Report flashReport(FlashAnswer flash, Mixture mixture, MixtureObject& object) {
@@ -178,10 +185,11 @@ Report flashReport(FlashAnswer flash, Mixture mixture, MixtureObject& object) {
         flash.bubble = standingOf(flash, object, "TBV", flash.record.bubblePoint);
         flash.dew = standingOf(flash, object, "TRB", flash.record.dewPoint);
     }
-    requireResult(flash, object);
+    requireResult(flash, mixture, object);
     flash.notes = explanations(flash);
-    const auto supercritical = supercriticalNotes(flash, mixture, object);
-    flash.notes.insert(flash.notes.end(), supercritical.begin(), supercritical.end());
+    const std::string pressure = flash.record.equilibrium.empty() ? "." : ", tenze par se bere při 0.98 Tkr.";
+    for (const std::string& gas : gasesAt(flash.record.temperature, mixture, object))
+        flash.notes.push_back(gas + pressure);
     if (flash.record.outcome == FlashOutcome::Converged) {
         // The K-values of the result, which nobody else has looked at.
         const MixtureValue worst =
@@ -216,15 +224,15 @@ class KnownFeed : public ForwardingUserInterface {
 
 Report flashByAsking(const Mixture& mixture, UserInterface& user) {
     MixtureObject object(mixture, &user);
-    return flashReport(runFlash(object, kAsking, 0, 0), mixture, object);
+    return flashReport(runFlash(object, mixture, kAsking, 0, 0), mixture, object);
 }
 
 }  // namespace
 
 Report answer(const FlashRequest& request, const Database& database, UserInterface&) {
-    const Mixture mixture = findMixture(request.composition, database);
+    const Mixture mixture = withoutAbsent(findMixture(request.composition, database));
     MixtureObject object(mixture);
-    FlashAnswer flash = runFlash(object, request.adiabatic ? 1 : 0, request.temperature, request.pressure);
+    FlashAnswer flash = runFlash(object, mixture, request.adiabatic ? 1 : 0, request.temperature, request.pressure);
     flash.T0 = request.temperature;
     return flashReport(std::move(flash), mixture, object);
 }

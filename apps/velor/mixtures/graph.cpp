@@ -28,7 +28,8 @@ Picture pictureOf(const Section& section, std::string_view symbol, const std::st
 }
 
 void requireTemperatures(const std::vector<double>& temperatures) {
-    if (temperatures.size() < 2) throw Failure(ExitCode::WrongUse, "Graf potřebuje aspoň dvě teploty.");
+    const auto [least, most] = std::ranges::minmax(temperatures);
+    if (least == most) throw Failure(ExitCode::WrongUse, "Graf potřebuje aspoň dvě různé teploty.");
 }
 
 void requireDependence(const MixtureProperty& property) {

@@ -22,13 +22,14 @@ std::vector<double> elements(const Variant& fractions) {
 void requireOneFractionEach(std::size_t fractions, const SubstanceList& substances) {
     if (fractions == substances.size()) return;
     throw Failure(ExitCode::WrongUse, "Látek je " + std::to_string(substances.size()) + ", ale zlomků složení " +
-                                          std::to_string(fractions) + ".");
+                                          std::to_string(fractions) +
+                                          ". S desetinnou čárkou je oddělte středníkem: 0,4;0,6.");
 }
 
 std::vector<double> givenFractions(const CompositionRequest& request, const SubstanceList& substances) {
     if (!request.fractions) {
         if (substances.size() == 1) return {1.0};
-        throw Failure(ExitCode::WrongUse, "Chybí složení směsi: --slozeni ZLOMKY.");
+        throw Failure(ExitCode::WrongUse, "Chybí složení směsi. Zadejte např. --slozeni 0.4,0.6");
     }
     std::vector<double> fractions = *request.fractions;
     requireOneFractionEach(fractions.size(), substances);

@@ -12,6 +12,10 @@ namespace velor::app {
 // Failure(WrongUse): a wrong number of fractions, or a sum that is not 1 and not to be normalised.
 Mixture findMixture(const CompositionRequest& request, const Database& database, bool clamp = false);
 
+// Only the components that are there: the library holds bubble and dew points below the critical temperatures of all,
+// even of those of fraction 0.
+Mixture withoutAbsent(const Mixture& mixture);
+
 // The answer to vlastnost for a mixture that is known already.
 Report propertyReport(const MixturePropertyRequest& request, const Mixture& mixture);
 

@@ -48,7 +48,7 @@ std::string phaseWord(StablePhase phase) {
         case StablePhase::Unknown:
             break;
     }
-    return "neznámé";
+    return "nelze určit";
 }
 
 bool isShown(const MixtureProperty& property, StablePhase stable) {
@@ -67,7 +67,7 @@ Section stateSection(const OverviewRequest& request, StablePhase stable) {
 
 std::vector<std::string> phaseNotes(StablePhase stable) {
     if (stable == StablePhase::Both) {
-        return {"Hodnoty kapaliny i plynu platí pro zadané složení; jak se směs rozdělí, vypočte velor flash."};
+        return {"Hodnoty kapaliny i plynu platí pro zadané složení; rozdělení na fáze počítá velor flash."};
     }
     if (stable == StablePhase::Unknown)
         return {"Bez tenze par všech složek není skupenství známo, proto jsou uvedeny hodnoty kapaliny i plynu."};

@@ -5,6 +5,8 @@ namespace velor::app {
 
 namespace {
 
+std::string sentence(const std::string& text) { return text.ends_with('!') || text.ends_with('.') ? text : text + "."; }
+
 // Why there is no value, or what of the substances it has to be read with care for; a Czech sentence.
 std::string reasonOf(const MixtureVerdict& verdict, const MixtureProperty& property, const Mixture& mixture,
                      const MessageLog& log) {
@@ -18,11 +20,12 @@ std::string reasonOf(const MixtureVerdict& verdict, const MixtureProperty& prope
     if (standing != Standing::Failed) return {};
     const std::string said = log.firstText();
     if (!said.empty()) return said;
-    if (verdict.error) return "Výpočet selhal: " + describe(*verdict.error) + ".";
+    if (verdict.error) return "Výpočet selhal: " + sentence(describe(*verdict.error));
     return std::string(standingNote(standing));
 }
 
-// The library holds the temperature below the critical ones of all components, even of those that are not there.
+}  // namespace
+
 Mixture withoutAbsent(const Mixture& mixture) {
     Mixture present{mixture.database, {}, {}, mixture.clamp};
     for (std::size_t i = 0; i < mixture.substances.size(); ++i) {
@@ -33,8 +36,6 @@ Mixture withoutAbsent(const Mixture& mixture) {
     }
     return present;
 }
-
-}  // namespace
 
 MixtureValue worstPureValue(const Mixture& mixture, MixtureObject& object, const MixtureProperty& property, double T) {
     const MixtureVerdict worst = velor::worstPureValue(object.smes, property, T, Fractions(mixture.moleFractions));

@@ -127,6 +127,7 @@ struct Picture {
     std::string horizontal;  // labels of the axes
     std::string vertical;
     std::vector<Curve> curves;
+    bool isOverFractions = false;  // the horizontal axis goes from 0 to 1, wherever the points are
 };
 
 bool isPictureFileName(std::string_view name);  // ends in .svg or .png

@@ -65,7 +65,8 @@ int exitCodeOf(pid_t process) {
     int status = 0;
     while (waitpid(process, &status, 0) < 0)
         if (errno != EINTR) return EXIT_FAILURE;
-    return WIFEXITED(status) ? WEXITSTATUS(status) : EXIT_FAILURE;
+    constexpr int kSignalled = 128;  // as shells tell it
+    return WIFEXITED(status) ? WEXITSTATUS(status) : kSignalled + WTERMSIG(status);
 }
 
 // Runs a script that draws to the standard output, in a process of its own, and returns the picture's bytes.
@@ -78,7 +79,8 @@ std::string runGnuplot(std::string_view script) {
     const int exitCode = exitCodeOf(process);
     if (exitCode == kNotFound) fail("Obrázky kreslí program gnuplot, který není nainstalován (balíček gnuplot-nox).");
     std::string image = picture.content();
-    if (exitCode != 0 || image.empty()) fail("Program gnuplot obrázek nenakreslil: " + errors.content());
+    if (exitCode != 0 || image.empty())
+        fail("Program gnuplot obrázek nenakreslil (kód " + std::to_string(exitCode) + "): " + errors.content());
     return image;
 }
 
@@ -108,7 +110,22 @@ std::string literal(std::string_view text) {
 
 std::string coordinates(const Curve::Point& point) { return exactText(*point.x) + " " + exactText(*point.y) + "\n"; }
 
-std::string blockName(std::size_t curve, bool isSure) { return (isSure ? "$sure" : "$unsure") + std::to_string(curve); }
+enum class Part { Sure, Unsure, Alone };
+constexpr Part kParts[] = {Part::Sure, Part::Unsure, Part::Alone};
+
+std::string blockName(std::size_t curve, Part part) {
+    constexpr const char* kNames[] = {"$sure", "$unsure", "$alone"};
+    return kNames[static_cast<std::size_t>(part)] + std::to_string(curve);
+}
+
+// Points without a neighbour on either side.
+std::string lonePoints(const Curve& curve) {
+    std::string text;
+    const auto isThere = [&](std::size_t i) { return i < curve.points.size() && curve.points[i].isThere(); };
+    for (std::size_t i = 0; i < curve.points.size(); ++i)
+        if (isThere(i) && !isThere(i - 1) && !isThere(i + 1)) text += coordinates(curve.points[i]);
+    return text;
+}
 
 // The pieces of the curve that are sure, or those that are not, which meet them at their ends. A blank line ends a
 // piece, so that nothing is drawn over a point that is missing.
@@ -128,11 +145,17 @@ std::string pieces(const Curve& curve, bool wantsSure) {
 
 // As many as a mixture may have components.
 constexpr auto kColours = std::to_array<std::string_view>(
-    {"#1b6ca8", "#d95f02", "#1b9e77", "#c2185b", "#7b4fb5", "#8c6d1f", "#000000", "#e6ab02", "#66a61e", "#00a6c8",
+    {"#1b6ca8", "#d95f02", "#1b9e77", "#c2185b", "#7b4fb5", "#8c6d1f", "#455a64", "#e6ab02", "#66a61e", "#00a6c8",
      "#e377c2", "#7f7f7f", "#a0522d", "#3949ab", "#ff5c4d", "#009688", "#9ccc65", "#5d4037", "#b39ddb", "#f48fb1"});
 
-std::string line(std::string_view colour, bool isSure) {
-    return std::string(" with lines linecolor rgb '").append(colour).append("' dashtype ").append(isSure ? "1" : "2");
+std::string style(std::string_view colour, Part part) {
+    std::string text = part == Part::Alone ? " with points pointtype 7 pointsize 0.6" : " with lines dashtype ";
+    if (part != Part::Alone) text += part == Part::Sure ? "1" : "2";
+    return text.append(" linecolor rgb '").append(colour).append("'");
+}
+
+std::string plotted(const std::string& data, std::string_view colour, Part part) {
+    return data + (data.starts_with('$') ? " using 1:2" : "") + style(colour, part);
 }
 
 // Solid where the values hold; one entry of the legend tells what is dashed.
@@ -141,14 +164,19 @@ std::string plotCommand(const std::vector<Curve>& curves, const std::set<std::st
     bool isAllSure = true;
     for (std::size_t i = 0; i < curves.size(); ++i) {
         const std::string_view colour = kColours[i % kColours.size()];
-        text += std::exchange(separator, ", ") + "keyentry" + line(colour, true) + " title " + literal(curves[i].name);
-        for (const bool isSure : {true, false}) {
-            if (!blocks.contains(blockName(i, isSure))) continue;
-            text += separator + blockName(i, isSure) + " using 1:2" + line(colour, isSure) + " notitle";
-            isAllSure = isAllSure && isSure;
+        const bool isDrawn =
+            std::ranges::any_of(kParts, [&](Part part) { return blocks.contains(blockName(i, part)); });
+        text += std::exchange(separator, ", ") + plotted("keyentry", colour, Part::Sure) + " title " +
+                literal(curves[i].name + (isDrawn ? "" : " (bez hodnot)"));
+        for (const Part part : kParts) {
+            if (!blocks.contains(blockName(i, part))) continue;
+            text += separator + plotted(blockName(i, part), colour, part) + " notitle";
+            isAllSure = isAllSure && part != Part::Unsure;
         }
     }
-    if (!isAllSure) text += separator + "keyentry" + line("#000000", false) + " title " + literal("hodnoty s výhradou");
+    if (!isAllSure)
+        text += separator + plotted("keyentry", "#000000", Part::Unsure) + " title " +
+                literal("mimo platnost, metastabilní apod.");
     return text + "\n";
 }
 
@@ -170,19 +198,21 @@ std::string script(const Picture& picture, bool isPng) {
     text += " noenhanced linewidth 2 background rgb 'white'\n";
     text += "set format x " + labelFormat(picture.curves, &Curve::Point::x);
     text += "set format y " + labelFormat(picture.curves, &Curve::Point::y);
+    if (picture.isOverFractions) text += "set xrange [0:1]\n";
     text += "set grid linewidth 0.5\nset key tmargin center horizontal\n";
     text += "set title " + literal(picture.title) + "\nset xlabel " + literal(picture.horizontal) + "\nset ylabel " +
             literal(picture.vertical) + "\n";
     std::set<std::string> blocks;  // those that hold anything: gnuplot complains of empty ones
     for (std::size_t i = 0; i < picture.curves.size(); ++i) {
-        for (const bool isSure : {true, false}) {
-            const std::string points = pieces(picture.curves[i], isSure);
+        for (const Part part : kParts) {
+            const Curve& curve = picture.curves[i];
+            const std::string points = part == Part::Alone ? lonePoints(curve) : pieces(curve, part == Part::Sure);
             if (points.empty()) continue;
-            blocks.insert(blockName(i, isSure));
-            text += blockName(i, isSure) + " << END\n" + points + "END\n";
+            blocks.insert(blockName(i, part));
+            text += blockName(i, part) + " << END\n" + points + "END\n";
         }
     }
-    if (blocks.empty()) fail("Není co nakreslit: žádné dva sousední body nemají hodnotu.");
+    if (blocks.empty()) fail("Není co nakreslit: žádný bod nemá hodnotu.");
     return text + plotCommand(picture.curves, blocks);
 }
 
