@@ -19,13 +19,14 @@ enum class Standing {
     AtBound,          // clamped into it, see Smes::MezeZap
     BelowCritical,    // above the critical temperature, evaluated at 0.98 of it
     LeftOut,          // a component above its critical temperature has no part in the heat of vaporisation
+    Inert,            // of a dew point: a component above its critical temperature does not condense
     Metastable,       // of a gas above its dew pressure: part of it would condense
     NotGiven,         // the database has no such correlation of the substance
     BeyondReference,  // the equation has no value beyond its reference temperature
     Diverged,         // the iteration was given up
     Failed,
 };
-inline constexpr std::size_t kStandings = 10;
+inline constexpr std::size_t kStandings = 11;
 
 // One word for machines.
 std::string_view standingWord(Standing standing);

@@ -25,10 +25,6 @@ constexpr std::size_t kMostCasCharacters = 13;
 constexpr std::size_t kNumberCharacters = 3;
 constexpr std::size_t kLeastNamePosition = 5;
 
-bool isSubstance(const TLatka& record) {
-    return record.Nazev[0] != '\0' && !(record.Nazev[0] == ' ' && record.Nazev[1] == ' ');
-}
-
 template <std::size_t Width>
 std::string firstCharacters(const std::array<char, Width>& field, std::size_t count) {
     return decodeWindows1250({field.data(), count});
@@ -79,7 +75,7 @@ ReadLines readLines(State& state) {
     for (int number = 1; number <= count; ++number) {
         // The buffer of component 1 is used and left with the last record read, deliberately.
         const TLatka& record = state.definition.slots.change(1) = database.read(number);
-        if (!isSubstance(record)) continue;
+        if (!isUsed(record)) continue;
         if (read.lines.size() == kMostLines) checked::raise(RunTimeError::kSubscript);
         read.lines.push_back(sortedLine(record, number));
         read.substances.push_back(substanceOf(number, record));

@@ -61,11 +61,11 @@ std::string substanceAndProperty(const State& state, int i, int k) {
     return kNoValue;
 }
 
-double workingTemperature(const State& state, const TLatka& record, const TKorelace& block, double T, int k) {
+double workingTemperature(const TLatka& record, const TKorelace& block, bool isClamped, double T, int k) {
     double Tx = T;
     // Above the critical point the liquid's correlations are evaluated just below it, on purpose.
     if (isTakenBelowCritical(k, record.Tkr, T)) Tx = kBelowCritical * record.Tkr;
-    if (state.settings.MezeTeplot > 0) {  // the caller's T is compared, not the one just set
+    if (isClamped) {  // the caller's T is compared, not the one just set
         if (T < block.Tmin) Tx = block.Tmin;
         if (T > block.Tmax) Tx = block.Tmax;
     }
@@ -77,6 +77,34 @@ const TKorelace& blockOf(const TLatka& record, int k) {
     return record.Korelace[static_cast<std::size_t>(k - 1)];
 }
 
+}  // namespace
+
+double correlationValue(const TLatka& record, int number, bool isClamped, const Temperature& T, int k) {
+    const TKorelace& block = blockOf(record, k);
+    const Equation& equation = equationOf(block.Typ);
+    const double Tx = workingTemperature(record, block, isClamped, T, k);
+    if (k == kROLW && number == kWater) return waterDensity(Tx);
+    // A T that was not moved brings the logarithm that the components share.
+    return Tx == T ? equation.value(block.A, T) : equation.value(block.A, Tx);
+}
+
+PropertyValue judged(double value, const TLatka& record, bool isClamped, double T, int k) {
+    if (value == kNoValue) return {Standing::BeyondReference};
+    if (value < 0) return {Standing::Failed};  // an equation far outside its range: none of the ten is negative
+    const TKorelace& block = blockOf(record, k);
+    const bool isOutside = T < block.Tmin || T > block.Tmax;
+    if (isOutside && isClamped) return {Standing::AtBound, value};
+    if (isTakenBelowCritical(k, record.Tkr, T)) return {Standing::BelowCritical, value};
+    return {isOutside ? Standing::Extrapolated : Standing::InRange, value};
+}
+
+HeatCapacity heatCapacityOf(const TLatka& record, bool isClamped) {
+    const TKorelace& block = blockOf(record, kCPG);
+    return {block.A, block.Typ, isClamped, static_cast<double>(block.Tmin), static_cast<double>(block.Tmax)};
+}
+
+namespace {
+
 double evaluate(State& state, const Temperature& T, int i, int k) {
     const TLatka& record = state.definition.slots.Latka(i);
     const TKorelace& block = blockOf(record, k);
@@ -84,11 +112,7 @@ double evaluate(State& state, const Temperature& T, int i, int k) {
         reportMissing(state, i, k);
     if (!isEquationType(block.Typ)) [[unlikely]]
         return reportInvalidType(state, T, i, k, block.Typ);
-    const Equation& equation = kEquations[static_cast<std::size_t>(block.Typ - 1)];
-    const double Tx = workingTemperature(state, record, block, T, k);
-    if (k == kROLW && state.definition.slots.CisloLatky(i) == kWater) return waterDensity(Tx);
-    // A T that was not moved brings the logarithm that the components share.
-    return Tx == T ? equation.value(block.A, T) : equation.value(block.A, Tx);
+    return correlationValue(record, state.definition.slots.CisloLatky(i), state.settings.MezeTeplot > 0, T, k);
 }
 
 // What is raised to the host on purpose tells the substance and passes the trap as it is.

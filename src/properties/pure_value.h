@@ -4,8 +4,10 @@
 #include <string_view>
 
 #include "object/state.h"
+#include "rules/ideal_gas.h"
 #include "rules/temperature.h"
 #include "velor/properties.h"
+#include "velor/verdict.h"
 
 namespace velor {
 
@@ -18,6 +20,16 @@ inline bool isTakenBelowCritical(int k, double Tkr, double T) {
     constexpr double kLeastCriticalTemperature = 15.0;
     return k >= kETAL && Tkr > kLeastCriticalTemperature && T > Tkr;
 }
+
+// Property k of a record at T as FFce evaluates it, without its messages: below the critical point, clamped into the
+// range, water's density by an equation of its own. Errors: those of evaluateEquation.
+double correlationValue(const TLatka& record, int number, bool isClamped, const Temperature& T, int k);
+
+// The verdict on that value.
+PropertyValue judged(double value, const TLatka& record, bool isClamped, double T, int k);
+
+// The heat capacity of the ideal gas.
+HeatCapacity heatCapacityOf(const TLatka& record, bool isClamped);
 
 std::string_view propertyName(int k);
 

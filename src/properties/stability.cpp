@@ -1,7 +1,7 @@
-// Which phase of an ideal mixture is stable, by Raoult's law at one temperature and pressure.
+#include "properties/stability.h"
+
+#include <algorithm>
 #include <cmath>
-#include <limits>
-#include <optional>
 
 #include "velor/verdict.h"
 
@@ -9,34 +9,13 @@ namespace velor {
 
 namespace {
 
-// An iteration ends within 0.02 K of its solution: of the steepest vapour pressures that is some per cent.
-constexpr double kTolerance = 0.03;
-
-const PureProperty& vapourPressure() { return pureProperties()[kTENS - 1]; }
-
-// The pressures at which the mixture boils and condenses, relative to P.
-struct Raoult {
-    double boiling = 0;     // sum(x Ps) / P: at 1 the liquid begins to boil
-    double condensing = 0;  // sum(y P / Ps): at 1 the vapour begins to condense
-    bool hasGases = false;  // components above their critical temperatures: no liquid is made of them
-};
-
-// Nothing where a vapour pressure is missing. A component above its critical temperature takes part with the value of
-// its correlation just below that or, where gases are left out, not at all in what condenses.
 std::optional<Raoult> raoultAt(Smes& smes, double T, double P, const Variant& X, bool leavesGasesOut) {
-    Raoult sums;
-    for (int slot = 1; slot <= smes.Nsloz().toInt16(); ++slot) {
-        const double fraction = X.at(slot).toDouble();
-        if (!(fraction > 0)) continue;
-        const PropertyValue Ps = pureValue(smes, T, slot, vapourPressure());
-        if (!Ps.isComputed()) return std::nullopt;
-        const bool isGas = T >= smes.Tkri(slot).toDouble();
-        sums.hasGases = sums.hasGases || isGas;
-        sums.boiling += fraction * Ps.value / P;
-        if (isGas && leavesGasesOut) continue;
-        sums.condensing += Ps.value > 0 ? fraction * P / Ps.value : std::numeric_limits<double>::infinity();
-    }
-    return sums;
+    const auto slot = [](std::size_t i) { return static_cast<int>(i) + 1; };
+    return raoultSums(
+        static_cast<std::size_t>(std::max<std::int16_t>(smes.Nsloz().toInt16(), 0)), P, leavesGasesOut,
+        [&](std::size_t i) { return X.at(slot(i)).toDouble(); },
+        [&](std::size_t i) { return pureValue(smes, T, slot(i), pureProperties()[kTENS - 1]); },
+        [&](std::size_t i) { return T >= smes.Tkri(slot(i)).toDouble(); });
 }
 
 }  // namespace
@@ -45,12 +24,12 @@ bool isSaturationPoint(Smes& smes, const MixtureProperty& property, double T, do
     const auto sums = raoultAt(smes, T, P, X, false);
     if (!sums) return false;
     const bool isBubble = property.outcome == &Smes::lastBubblePoint;
-    return std::abs((isBubble ? sums->boiling : sums->condensing) - 1.0) <= kTolerance;
+    return std::abs((isBubble ? sums->boiling : sums->condensing) - 1.0) <= Raoult::kTolerance;
 }
 
 bool isMetastableGas(Smes& smes, double T, double P, const Variant& X) {
     const auto sums = raoultAt(smes, T, P, X, true);
-    return sums && sums->condensing > 1.0 + kTolerance;
+    return sums && sums->isMetastableGas();
 }
 
 StablePhase stablePhase(Smes& smes, double T, double P, const Variant& X) {

@@ -20,6 +20,7 @@ constexpr std::array<Words, kStandings> kWords{{
     {"na mezi", "=", "Teplota je mimo rozsah platnosti korelace, hodnota platí pro jeho nejbližší mez."},
     {"0.98 Tkr", "k", "Teplota je nad kritickou, hodnota je vypočtena při 0.98 Tkr."},
     {"bez nadkritických", "s", "Složka nad svou kritickou teplotou se do výparného tepla nezapočítává."},
+    {"inertní složka", "i", "Složka nad svou kritickou teplotou nekondenzuje."},
     {"metastabilní", "m", "Tlak je nad rosným (nad tenzí par): takový plyn není stálý, část by zkapalněla."},
     {"nedáno", "n", "Vlastnost není pro látku v bázi dána."},
     {"bez hodnoty", "r", "Rovnice nemá při této teplotě hodnotu (nad vztažnou teplotou)."},

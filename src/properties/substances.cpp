@@ -25,11 +25,6 @@ std::string fieldText(const std::array<char, Width>& field) {
     return std::string(trimBlanks(shown));
 }
 
-// As the library sees it when it loads a component.
-bool isUnused(const TLatka& record) {
-    return (record.Nazev[0] == ' ' && record.Nazev[1] == ' ') || record.Nazev[0] == '\0';
-}
-
 std::string registryNumber(std::int32_t number) {
     constexpr std::int32_t kLeast = 1000;  // no registry number is shorter
     return number < kLeast ? std::string() : casText(std::to_string(number));
@@ -49,7 +44,7 @@ SubstanceList readSubstances(const std::string& databasePath) {
     bool isDatabase = false;  // a file of another kind does not hold a record that knows its own number
     for (int number = 1; number <= count; ++number) {
         const TLatka record = file.read(number);
-        if (isUnused(record)) continue;
+        if (!isUsed(record)) continue;
         isDatabase = isDatabase || record.Cislo == number;
         substances.push_back(substanceOf(number, record));
     }

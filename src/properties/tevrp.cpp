@@ -60,12 +60,6 @@ const CubicComponent& cubicOf(State& state, PreparedGas::Component& kept, int i)
     return kept.cubic;
 }
 
-HeatCapacity gasHeatCapacity(const State& state, int i) {
-    const TKorelace& block = state.definition.slots.Latka(i).Korelace[kCPG - 1];
-    return {block.A, block.Typ, state.settings.MezeTeplot > 0, static_cast<double>(block.Tmin),
-            static_cast<double>(block.Tmax)};
-}
-
 // Whether the correlation gave its value with nothing to report; only then may what follows from it be kept, because a
 // kept value must not swallow a message that is due.
 bool wasSilent(const State& state, int i, int k, double value) {
@@ -85,7 +79,8 @@ void TEVRP0(State& state, PreparedGas::Component& kept, int i) {
     const CubicState residual = residualState(Tb, kReferencePressure, V, pure);
     kept.enthalpy = DHV - residual.enthalpy;
     kept.entropy = checked::divide(DHV, Tb) - residual.entropy;
-    kept.idealGas = HeatCapacityIntegral(gasHeatCapacity(state, i), Tb);
+    kept.idealGas =
+        HeatCapacityIntegral(heatCapacityOf(state.definition.slots.Latka(i), state.settings.MezeTeplot > 0), Tb);
     kept.hasReference = wasSilent(state, i, kDHV, DHV);
 }
 

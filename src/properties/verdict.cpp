@@ -9,18 +9,6 @@
 
 namespace velor {
 
-namespace {
-
-Standing standingAt(const Smes& smes, double T, int slot, const PureProperty& property) {
-    const bool isOutside =
-        T < smes.VLRConst(slot, property.number, kTmin) || T > smes.VLRConst(slot, property.number, kTmax);
-    if (isOutside && smes.MezeTeplot() > 0) return Standing::AtBound;
-    if (isTakenBelowCritical(property.number, smes.Tkri(slot).toDouble(), T)) return Standing::BelowCritical;
-    return isOutside ? Standing::Extrapolated : Standing::InRange;
-}
-
-}  // namespace
-
 bool isGiven(const Smes& smes, int slot, int property) { return smes.VLRConst(slot, property, kPriznak) != 0; }
 
 PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& property) {
@@ -29,9 +17,7 @@ PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& prop
     if (!isEquationType(type)) return {Standing::Failed};  // the engine would say so in a box each time
     try {
         const double value = smes.FFce(T, slot, property.number).toDouble();
-        if (value == kNoValue) return {Standing::BeyondReference};
-        if (value < 0) return {Standing::Failed};  // an equation far outside its range: none of the ten is negative
-        return {standingAt(smes, T, slot, property), value};
+        return judged(value, smes.record(slot), smes.MezeTeplot() > 0, T, property.number);
     } catch (const RunTimeError&) {
         return {Standing::Failed};
     }

@@ -8,6 +8,11 @@
 
 namespace velor {
 
+// Whether the record holds a substance: its name begins neither with a zero byte nor with two blanks.
+inline bool isUsed(const TLatka& record) {
+    return record.Nazev[0] != '\0' && !(record.Nazev[0] == ' ' && record.Nazev[1] == ' ');
+}
+
 class RecordFile {
   public:
     // Opens for reading only. Errors: 53, 70, 75, 76.

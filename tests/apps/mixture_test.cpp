@@ -24,7 +24,9 @@ TEST(MixtureTest, everyNameGivesTheLibrarysValue) {
     for (const auto& row : rows) {
         const std::string name = row["zkratka"];
         const double expected = smes.Vlastnost(name, Fractions({0.4, 0.6}), 380, 2e4).toDouble();
-        EXPECT_NEAR(value(vlastnost(name + kMixture + " -T 380 -P 20000")), expected, 1e-12 * std::abs(expected));
+        const bool isSolved = name == "TBV" || name == "TRB";  // in full, where the library stops within 0.02 K
+        EXPECT_NEAR(value(vlastnost(name + kMixture + " -T 380 -P 20000")), expected,
+                    isSolved ? 0.02 : 1e-12 * std::abs(expected));
     }
     EXPECT_TRUE(boxes.messages.empty());
 }

@@ -3,9 +3,9 @@
 set -euo pipefail
 cd "$1"
 
-rooms="runtime rules platform records object properties dialogs views com"
+rooms="runtime rules platform records object properties table dialogs views com"
 wrong=$(grep -rn '^#include "' src --include=*.cpp --include=*.h | awk -v rooms="$rooms" '
-    BEGIN { split(rooms, names, " "); for (i in names) floor[names[i]] = i; floor["velor"] = 0 }
+    BEGIN { split(rooms, names, " "); for (i in names) floor[names[i]] = i + 0; floor["velor"] = 0 }
     {
         split($0, at, ":"); split(at[1], from, "/"); split($0, quoted, "\""); split(quoted[2], to, "/")
         if (!(from[2] in floor) || !(to[1] in floor) || floor[to[1]] > floor[from[2]]) print

@@ -1,6 +1,7 @@
 // A mixture put into the library, what the library says of it at one point, and how a report introduces it.
 #pragma once
 
+#include <span>
 #include <string>
 #include <vector>
 
@@ -50,6 +51,9 @@ struct MixtureValue {
     std::string reason;  // why there is none, a Czech sentence
 };
 
+// The property at each of the points, by the library's table.
+std::vector<MixtureValue> mixtureValues(const Mixture& mixture, const MixtureProperty& property,
+                                        std::span<const Point> points);
 MixtureValue mixtureValue(const Mixture& mixture, const MixtureProperty& property, const Point& point);
 
 // The worst of the pure values that the property is mixed of at T kelvin, see worstPureValue of verdict.h. The object

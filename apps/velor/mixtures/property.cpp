@@ -59,8 +59,7 @@ Section valuesSection(const Values& values, const std::vector<Point>& points, co
 Report propertyReport(const MixturePropertyRequest& request, const Mixture& mixture) {
     const MixtureProperty& property = *request.property;
     const std::vector<Point> places = points(request);
-    Values values;
-    for (const Point& point : places) values.push_back(mixtureValue(mixture, property, point));
+    const Values values = mixtureValues(mixture, property, places);
     requireAnyValue(values, property);
     return {{propertySection(property), compositionSection(mixture), valuesSection(values, places, property)},
             "hodnoty"};

@@ -1,4 +1,5 @@
 #include "mixtures/mixture.h"
+#include "velor/table.h"
 
 namespace velor::app {
 
@@ -40,11 +41,48 @@ MixtureValue worstPureValue(const Mixture& mixture, MixtureObject& object, const
     return {worst.result, reasonOf(worst, property, mixture, object.log)};
 }
 
-MixtureValue mixtureValue(const Mixture& whole, const MixtureProperty& property, const Point& point) {
+namespace {
+
+PreparedMixture prepared(const Mixture& mixture) {
+    const MixtureSettings settings{.isSoave = false, .isClamped = mixture.clamp};
+    if (!mixture.components.empty()) return PreparedMixture(mixture.components, settings);
+    std::vector<int> numbers;
+    for (const Substance& substance : mixture.substances) numbers.push_back(substance.number);
+    return {mixture.database.path, numbers, settings};
+}
+
+// The object knows which component stands in the way and what the library says of it.
+std::string reasonWithoutValue(const Mixture& whole, const MixtureProperty& property, const Point& point,
+                               Standing standing) {
     const Mixture mixture = property.outcome ? withoutAbsent(whole) : whole;
     MixtureObject object(mixture);
     const MixtureVerdict verdict = velor::mixtureValue(object.smes, property, point.T, point.P, object.X);
-    return {verdict.result, reasonOf(verdict, property, mixture, object.log)};
+    if (!verdict.result.isComputed()) return reasonOf(verdict, property, mixture, object.log);
+    return reasonOf({{standing}}, property, mixture, object.log);
+}
+
+}  // namespace
+
+std::vector<MixtureValue> mixtureValues(const Mixture& mixture, const MixtureProperty& property,
+                                        std::span<const Point> points) {
+    std::vector<double> T, P, found(points.size());
+    std::vector<Standing> standings(points.size());
+    for (const Point& point : points) {
+        T.push_back(point.T);
+        P.push_back(point.P);
+    }
+    evaluate(prepared(mixture), property, T, P, {mixture.moleFractions}, found, standings);
+    std::vector<MixtureValue> values;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        values.push_back({{standings[i], found[i]}, {}});
+        if (!values[i].result.isComputed())
+            values[i].reason = reasonWithoutValue(mixture, property, points[i], standings[i]);
+    }
+    return values;
+}
+
+MixtureValue mixtureValue(const Mixture& mixture, const MixtureProperty& property, const Point& point) {
+    return mixtureValues(mixture, property, {&point, 1}).front();
 }
 
 BoilingRange boilingRange(const Mixture& mixture, double P) {

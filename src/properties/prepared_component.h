@@ -1,0 +1,51 @@
+// A component with everything prepared that depends on its record and the settings only.
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "rules/equation_of_state.h"
+#include "rules/equations.h"
+#include "rules/ideal_gas.h"
+#include "velor/properties.h"
+#include "velor/record.h"
+#include "velor/verdict.h"
+
+namespace velor {
+
+struct ComponentSettings {
+    Attraction attraction = Attraction::RedlichKwong;
+    bool isClamped = false;
+};
+
+// Enthalpy and entropy of the ideal gas from the liquid at the normal boiling point.
+struct GasReference {
+    double enthalpy = 0;  // J/mol
+    double entropy = 0;   // J/(mol K)
+    HeatCapacityIntegral idealGas;
+};
+
+class PreparedComponent {
+  public:
+    PreparedComponent(const TLatka& record, const ComponentSettings& settings);
+
+    const TLatka& record() const { return record_; }
+
+    // Property k (1..10) at T with its verdict; see pureValue of verdict.h.
+    PropertyValue pure(int k, const Temperature& T) const;
+
+    // What the real gas needs; none where it cannot be prepared.
+    const std::optional<CubicComponent>& cubic() const { return cubic_; }
+    const std::optional<GasReference>& gasReference() const { return gasReference_; }
+
+  private:
+    double correlation(int k, const Temperature& T) const;
+    void prepareGas(Attraction attraction);
+
+    TLatka record_;
+    bool isClamped_;
+    std::optional<CubicComponent> cubic_;
+    std::optional<GasReference> gasReference_;
+};
+
+}  // namespace velor
