@@ -123,17 +123,6 @@ TEST(Errors, haveNumberSourceAndDescription) {
     EXPECT_EQ(smes->Normal(nullptr), classicError(13));
 }
 
-// Nobody would answer a box here: one that is shown holds the test up for good.
-TEST(Quiet, keepsWhatItWouldShow) {
-    const Apartment apartment;
-    const auto smes = createSmes();
-    EXPECT_EQ(LateCall(*smes, L"Tichy", {true}, DISPATCH_PROPERTYPUT).result, S_OK);
-    EXPECT_EQ(LateCall(*smes, L"Tichy", {}).value.toInt16(), 1);
-    EXPECT_EQ(LateCall(*smes, L"Vlastnost", {"nic", 1, 300, 1e5}).value.toInt16(), -9999);
-    EXPECT_EQ(LateCall(*smes, L"PosledniHlaska", {}).value, Variant("Neznámá nebo chybná vlastnost!: nic"));
-    EXPECT_EQ(LateCall(*smes, L"SeznamShow", {}).failure.code, classicError(62));
-}
-
 // Every member with every kind of nonsense: an answer or an error, and the object goes on.
 TEST(WrongTypes, areRefusedEverywhere) {
     const Apartment apartment;

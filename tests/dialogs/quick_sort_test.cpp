@@ -26,6 +26,9 @@ TEST(QuickSort, sortsTextsByTheirFirst17Characters) {
         smes.QuickSort(sorted, first, last);
         EXPECT_EQ(sorted, texts(expected));
     }
+    Variant numbers = List({3, "2", 1.5});  // stay what they are
+    smes.QuickSort(numbers, 0, 2);
+    EXPECT_EQ(numbers, List({1.5, "2", 3}));
     Variant equal = texts(std::vector<std::string>(4000, "a"));  // must not recurse once an element
     smes.QuickSort(equal, 1, 4000);
     EXPECT_EQ(equal, texts(std::vector<std::string>(4000, "a")));
