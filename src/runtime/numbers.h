@@ -5,7 +5,9 @@
 #include <initializer_list>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "runtime/checked.h"
 #include "velor/text.h"
 
 namespace velor {
@@ -14,8 +16,14 @@ namespace velor {
 std::int16_t roundToInt16(double value);
 
 // A 16-bit argument that arrives as int: beyond the range is error 6.
-std::int16_t checkedInt16(int value);
-void requireInt16(std::initializer_list<int> values);
+inline std::int16_t checkedInt16(int value) {
+    if (!std::in_range<std::int16_t>(value)) [[unlikely]]
+        checked::raise(RunTimeError::kOverflow);
+    return static_cast<std::int16_t>(value);
+}
+inline void requireInt16(std::initializer_list<int> values) {
+    for (const int value : values) checkedInt16(value);
+}
 
 // The longest number at the start of the text: leading blanks, sign, digits with one ".", exponent. Reading stops at
 // the first character that cannot continue it; 0 where there is none. Beyond double precision is error 6.
