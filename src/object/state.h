@@ -86,10 +86,12 @@ struct LastResults {
 };
 
 // Constants that the rooms below prepare from the records; each room knows what is in them.
+struct PreparedCorrelations;
 struct PreparedGas;
 struct PreparedGasMixing;
 
 struct Prepared {
+    std::shared_ptr<PreparedCorrelations> correlations;
     std::shared_ptr<PreparedGas> gas;
     std::shared_ptr<PreparedGasMixing> gasMixing;
 };

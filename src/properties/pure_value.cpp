@@ -3,6 +3,7 @@
 #include <string>
 
 #include "object/trap.h"
+#include "properties/prepared_correlation.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -14,7 +15,6 @@ namespace velor {
 namespace {
 
 constexpr int kProperties = 10;
-constexpr double kBelowCritical = 0.98;
 
 bool exists(const State& state, int i, int k) {
     return k >= 1 && k <= kProperties && i >= 1 && i <= state.definition.PocSlozek;
@@ -47,7 +47,8 @@ std::string substanceAndProperty(const State& state, int i, int k) {
                 Icon::None);
 }
 
-[[gnu::noinline]] double reportInvalidType(State& state, double T, int i, int k, int type) {
+[[gnu::noinline]] double reportInvalidType(State& state, double T, int i, int k) {
+    const int type = state.definition.slots.Latka(i).Korelace[static_cast<std::size_t>(k - 1)].Typ;
     const std::string temperature = kLineBreak + ("Teplota(K)= " + Format(T, "#0.0"));
     if (engineMessageIsDue(state.messages)) {
         showCounted(state.messages,
@@ -61,34 +62,15 @@ std::string substanceAndProperty(const State& state, int i, int k) {
     return kNoValue;
 }
 
-double workingTemperature(const State& state, const TLatka& record, const TKorelace& block, double T, int k) {
-    double Tx = T;
-    // Above the critical point the liquid's correlations are evaluated just below it, on purpose.
-    if (isTakenBelowCritical(k, record.Tkr, T)) Tx = kBelowCritical * record.Tkr;
-    if (state.settings.MezeTeplot > 0) {  // the caller's T is compared, not the one just set
-        if (T < block.Tmin) Tx = block.Tmin;
-        if (T > block.Tmax) Tx = block.Tmax;
-    }
-    return Tx;
-}
-
-const TKorelace& blockOf(const TLatka& record, int k) {
-    if (k < 1 || k > TLatka::kCorrelations) checked::raise(RunTimeError::kSubscript);
-    return record.Korelace[static_cast<std::size_t>(k - 1)];
-}
-
 double evaluate(State& state, const Temperature& T, int i, int k) {
-    const TLatka& record = state.definition.slots.Latka(i);
-    const TKorelace& block = blockOf(record, k);
-    if (block.Priznak == 0) [[unlikely]]
+    const PreparedCorrelation* correlation = &preparedCorrelation(state, i, k);
+    if (!correlation->isGiven()) [[unlikely]] {
         reportMissing(state, i, k);
-    if (!isEquationType(block.Typ)) [[unlikely]]
-        return reportInvalidType(state, T, i, k, block.Typ);
-    const Equation& equation = kEquations[static_cast<std::size_t>(block.Typ - 1)];
-    const double Tx = workingTemperature(state, record, block, T, k);
-    if (k == kROLW && state.definition.slots.CisloLatky(i) == kWater) return waterDensity(Tx);
-    // A T that was not moved brings the logarithm that the components share.
-    return Tx == T ? equation.value(block.A, T) : equation.value(block.A, Tx);
+        correlation = &preparedCorrelation(state, i, k);  // the host may have changed it meanwhile
+    }
+    if (!correlation->hasEquation()) [[unlikely]]
+        return reportInvalidType(state, T, i, k);
+    return correlation->value(T, state.settings.MezeTeplot > 0);
 }
 
 // What is raised to the host on purpose tells the substance and passes the trap as it is.

@@ -1,0 +1,45 @@
+#include "properties/prepared_correlation.h"
+
+#include <memory>
+
+#include "properties/pure_value.h"
+#include "runtime/checked.h"
+
+namespace velor {
+
+namespace {
+
+constexpr double kBelowCritical = 0.98;
+
+std::size_t blockIndex(int k) {
+    if (k < 1 || k > TLatka::kCorrelations) [[unlikely]]
+        checked::raise(RunTimeError::kSubscript);
+    return static_cast<std::size_t>(k - 1);
+}
+
+}  // namespace
+
+PreparedCorrelation::PreparedCorrelation(const TLatka& record, int number, int k) {
+    const TKorelace& block = record.Korelace[blockIndex(k)];
+    isGiven_ = block.Priznak != 0;
+    hasEquation_ = isEquationType(block.Typ);
+    if (!hasEquation_) return;
+    equation_ = PreparedEquation(block.Typ, block.A);
+    isWaterDensity_ = k == kROLW && number == kWater;
+    Tmin_ = block.Tmin;
+    Tmax_ = block.Tmax;
+    if (!isTakenBelowCritical(k, record.Tkr, highest_)) return;
+    highest_ = record.Tkr;
+    belowCritical_ = kBelowCritical * record.Tkr;
+}
+
+const PreparedCorrelation& prepareCorrelation(State& state, int i, int k) {
+    const ComponentSlots& slots = state.definition.slots;
+    const PreparedCorrelation prepared(slots.Latka(i), slots.CisloLatky(i), k);
+    if (!state.prepared.correlations) state.prepared.correlations = std::make_shared<PreparedCorrelations>();
+    PreparedCorrelations::Kept& kept = state.prepared.correlations->kept[ComponentSlots::index(i)][blockIndex(k)];
+    kept = {slots.revision(), prepared};
+    return kept.correlation;
+}
+
+}  // namespace velor
