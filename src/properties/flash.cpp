@@ -111,9 +111,10 @@ double Flash::vapourEnthalpy(double T, const std::vector<double>& y) {
 
 void Flash::appendResults(double T0) {
     std::vector<std::string> names;
+    names.reserve(found_.feed.size());
     for (int i = 1; i <= static_cast<int>(found_.feed.size()); ++i)
         names.push_back(componentName(state_.definition.slots, i));
-    report_ += flashReport({T0, found_.temperature, state_.last.flashPressure, P_}, found_, names);
+    appendFlashReport(report_, {T0, found_.temperature, state_.last.flashPressure, P_}, found_, names);
 }
 
 const FlashRecord& Smes::lastFlash() const { return state_->last.flash; }
