@@ -23,6 +23,7 @@ PreparedCorrelation::PreparedCorrelation(const TLatka& record, int number, int k
     const TKorelace& block = record.Korelace[blockIndex(k)];
     isGiven_ = block.Priznak != 0;
     hasEquation_ = isEquationType(block.Typ);
+    isSilent_ = isGiven_ && hasEquation_;
     if (!hasEquation_) return;
     equation_ = PreparedEquation(block.Typ, block.A);
     isWaterDensity_ = k == kROLW && number == kWater;
@@ -33,12 +34,14 @@ PreparedCorrelation::PreparedCorrelation(const TLatka& record, int number, int k
     belowCritical_ = kBelowCritical * record.Tkr;
 }
 
-const PreparedCorrelation& prepareCorrelation(State& state, int i, int k) {
-    const ComponentSlots& slots = state.definition.slots;
-    const PreparedCorrelation prepared(slots.Latka(i), slots.CisloLatky(i), k);
+double PreparedCorrelation::valueAt(double Tx) const { return isWaterDensity_ ? waterDensity(Tx) : equation_(Tx); }
+
+const PreparedCorrelation& preparedCorrelation(State& state, int i, int k) {
     if (!state.prepared.correlations) state.prepared.correlations = std::make_shared<PreparedCorrelations>();
     PreparedCorrelations::Kept& kept = state.prepared.correlations->kept[ComponentSlots::index(i)][blockIndex(k)];
-    kept = {slots.revision(), prepared};
+    const ComponentSlots& slots = state.definition.slots;
+    if (kept.revision != slots.revision())
+        kept = {slots.revision(), PreparedCorrelation(slots.Latka(i), slots.CisloLatky(i), k)};
     return kept.correlation;
 }
 

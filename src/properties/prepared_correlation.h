@@ -20,14 +20,15 @@ class PreparedCorrelation {
 
     bool isGiven() const { return isGiven_; }
     bool hasEquation() const { return hasEquation_; }
+    // Whether its value comes without a message.
+    bool isSilent() const { return isSilent_; }
 
     // At T kelvin, of a correlation that has an equation; isClamped: outside its range the value at the range's end.
     // Errors: those of the equation.
     double value(const Temperature& T, bool isClamped) const {
         const double Tx = workingTemperature(T, isClamped);
-        if (isWaterDensity_) return waterDensity(Tx);
         // A T that was not moved brings the logarithm that the components share.
-        return Tx == T ? equation_(T) : equation_(Tx);
+        return Tx == T && !isWaterDensity_ ? equation_(T) : valueAt(Tx);
     }
 
   private:
@@ -42,10 +43,12 @@ class PreparedCorrelation {
         return Tx;
     }
 
+    double valueAt(double Tx) const;
+
     PreparedEquation equation_;
     double highest_ = std::numeric_limits<double>::infinity(), belowCritical_ = 0.0;  // K
     double Tmin_ = 0.0, Tmax_ = 0.0;                                                  // K
-    bool isGiven_ = false, hasEquation_ = false, isWaterDensity_ = false;
+    bool isGiven_ = false, hasEquation_ = false, isSilent_ = false, isWaterDensity_ = false;
 };
 
 // Those of all slots, each prepared when it is first asked for and again after a change.
@@ -57,19 +60,17 @@ struct PreparedCorrelations {
     std::array<std::array<Kept, TLatka::kCorrelations>, ComponentSlots::kCount> kept{};
 };
 
-// Prepares property k of component i. Error 9: i is not 1..20, k not 1..11.
-const PreparedCorrelation& prepareCorrelation(State& state, int i, int k);
+// Property k of component i. The reference is not to be kept over a message, in which the host may change the
+// component. Error 9: i is not 1..20, k not 1..11.
+const PreparedCorrelation& preparedCorrelation(State& state, int i, int k);
 
-// The same, kept from the last time where nothing has changed. The reference is not to be kept over a message, in which
-// the host may change the component.
-inline const PreparedCorrelation& preparedCorrelation(State& state, int i, int k) {
+// The same where it is silent and kept from an earlier call, else null; i and k are positive.
+inline const PreparedCorrelation* keptCorrelation(const State& state, int i, int k) {
     const PreparedCorrelations* all = state.prepared.correlations.get();
-    if (all && i >= 1 && i <= ComponentSlots::kCount && k >= 1 && k <= TLatka::kCorrelations) [[likely]] {
-        const auto& kept = all->kept[static_cast<std::size_t>(i - 1)][static_cast<std::size_t>(k - 1)];
-        if (kept.revision == state.definition.slots.revision()) [[likely]]
-            return kept.correlation;
-    }
-    return prepareCorrelation(state, i, k);
+    if (!all || i > ComponentSlots::kCount || k > TLatka::kCorrelations) return nullptr;
+    const auto& kept = all->kept[static_cast<std::size_t>(i - 1)][static_cast<std::size_t>(k - 1)];
+    const bool isCurrent = kept.revision == state.definition.slots.revision();
+    return isCurrent && kept.correlation.isSilent() ? &kept.correlation : nullptr;
 }
 
 }  // namespace velor

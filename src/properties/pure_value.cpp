@@ -73,6 +73,9 @@ double evaluate(State& state, const Temperature& T, int i, int k) {
     return correlation->value(T, state.settings.MezeTeplot > 0);
 }
 
+const Temperature& kelvin(const Temperature& T) { return T; }
+Temperature kelvin(const Variant& T) { return T.toDouble(); }
+
 // What is raised to the host on purpose tells the substance and passes the trap as it is.
 template <class Body>
 double valueOf(const State& state, const Body& body) {
@@ -80,12 +83,24 @@ double valueOf(const State& state, const Body& body) {
         kNoValue, state.messages, [] { return std::string("FFce"); }, body);
 }
 
+// The whole of FFce: what is not prepared yet, and what there may be a message of. T is a Temperature or the host's.
+template <class Number>
+[[gnu::noinline]] double valueWithMessages(State& state, const Number& T, int i, int k) {
+    if (!exists(state, i, k) && rejects(state, i, k)) return 0.0;
+    return valueOf(state, [&] { return evaluate(state, kelvin(T), i, k); });
+}
+
+template <class Number>
+double pureValue(State& state, const Number& T, int i, int k) {
+    const PreparedCorrelation* kept = exists(state, i, k) ? keptCorrelation(state, i, k) : nullptr;
+    if (!kept) [[unlikely]]
+        return valueWithMessages(state, T, i, k);
+    return valueOf(state, [&] { return kept->value(kelvin(T), state.settings.MezeTeplot > 0); });
+}
+
 }  // namespace
 
-double FFce(State& state, const Temperature& T, int i, int k) {
-    if (!exists(state, i, k) && rejects(state, i, k)) return 0.0;
-    return valueOf(state, [&] { return evaluate(state, T, i, k); });
-}
+double FFce(State& state, const Temperature& T, int i, int k) { return pureValue(state, T, i, k); }
 
 std::string_view propertyName(int k) {
     if (k >= 1 && k <= kProperties) return pureProperties()[static_cast<std::size_t>(k - 1)].code;
@@ -94,8 +109,7 @@ std::string_view propertyName(int k) {
 
 Variant Smes::FFce(const Variant& T, int i, int k) {
     requireInt16({i, k});
-    if (!exists(*state_, i, k) && rejects(*state_, i, k)) return 0.0;
-    return valueOf(*state_, [&] { return evaluate(*state_, T.toDouble(), i, k); });
+    return pureValue(*state_, T, i, k);
 }
 
 std::string Smes::ChybRozv(int k) { return std::string(propertyName(checkedInt16(k))); }
