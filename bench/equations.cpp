@@ -59,7 +59,7 @@ void addEquations() {
     for (const Sample& sample : kSamples)
         compare(
             nameOf(sample), Goal::ratio(1.3), evenly(290.0, 450.0),
-            [sample](double T) { return evaluateEquation(sample.type, sample.A, T); },
+            [equation = PreparedEquation(sample.type, sample.A)](double T) { return equation(T); },
             [equation = FloorEquation({sample.A, static_cast<std::int16_t>(sample.type)})](double T) {
                 return equation(T);
             });

@@ -58,7 +58,7 @@ void addFlash() {
         const auto mixture = mixtureOf(n);
         const SaturationFloor floor(mixture->records);
         compare(
-            "FLASH " + std::to_string(n), Goal::ratio(2.5), betweenBubbleAndDewPoint(*mixture),
+            "FLASH " + std::to_string(n), Goal::ratio(2.2), betweenBubbleAndDewPoint(*mixture),
             [mixture](const FlashPoint& at) {
                 Variant T = at.T, P = at.P;
                 benchmark::DoNotOptimize(mixture->smes.FLASH(0, T, P, mixture->X));

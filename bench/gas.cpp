@@ -12,11 +12,11 @@ void addGas() {
         const auto mixture = mixtureOf(n);
         const GasFloor floor(mixture->records);
         compare(
-            "ETAG " + std::to_string(n), Goal::ratio(3.0), evenly(350.0, 550.0),
+            "ETAG " + std::to_string(n), Goal::ratio(n < 20 ? 2.5 : 2.0), evenly(350.0, 550.0),
             [mixture](double T) { return mixture->smes.ETAG(T, mixture->X).toDouble(); },
             [mixture, floor](double T) { return floor.viscosity(T, mixture->fractions); });
         compare(
-            "ALAG " + std::to_string(n), Goal::ratio(3.0), evenly(350.0, 550.0),
+            "ALAG " + std::to_string(n), Goal::ratio(n < 20 ? 2.0 : 1.4), evenly(350.0, 550.0),
             [mixture](double T) { return mixture->smes.ALAG(T, mixture->X).toDouble(); },
             [mixture, floor](double T) { return floor.conductivity(T, mixture->fractions); });
     }

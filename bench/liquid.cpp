@@ -65,7 +65,7 @@ void addLiquid() {
         const auto mixture = mixtureOf(n);
         const LiquidFloor floor(mixture->records);
         compare(
-            "ROLW " + std::to_string(n), Goal::ratio(2.5), evenly(280.0, 400.0),
+            "ROLW " + std::to_string(n), Goal::ratio(2.2), evenly(280.0, 400.0),
             [mixture](double T) { return mixture->smes.ROLW(T, mixture->X).toDouble(); },
             [mixture, floor](double T) { return floor.density(T, mixture->fractions); });
         compare(

@@ -188,7 +188,7 @@ void addRealGas() {
                 return state.*member.member;
             });
     compare(
-        "RETAG 3", Goal::ratio(2.8), superheated(),
+        "RETAG 3", Goal::ratio(2.5), superheated(),
         [mixture](const StatePoint& at) { return mixture->smes.RETAG(at.T, at.P, mixture->X).toDouble(); },
         [mixture, dense = DenseViscosityFloor(mixture->records)](const StatePoint& at) {
             return dense(at, mixture->fractions);

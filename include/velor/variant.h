@@ -74,8 +74,14 @@ class Variant {
     // Arrays. Anything but an array raises 13, an index outside the bounds 9.
     int lowerBound() const { return heldArray().lowerBound; }
     int upperBound() const;  // lower bound - 1 for an empty array
-    const Variant& at(int index) const;
-    Variant& at(int index);
+    const Variant& at(int index) const {
+        const Array& array = heldArray();
+        const std::int64_t offset = static_cast<std::int64_t>(index) - array.lowerBound;
+        if (offset < 0 || static_cast<std::size_t>(offset) >= array.elements.size()) [[unlikely]]
+            raise(RunTimeError::kSubscript);
+        return array.elements[static_cast<std::size_t>(offset)];
+    }
+    Variant& at(int index) { return const_cast<Variant&>(std::as_const(*this).at(index)); }
 
     friend bool operator==(const Variant&, const Variant&) = default;
 
@@ -103,7 +109,13 @@ class Variant {
 
     explicit Variant(Storage value) : value_(std::move(value)) {}
     double convertToDouble() const;
-    const Array& heldArray() const;
+    const Array& heldArray() const {
+        const Array* array = std::get_if<Array>(&value_);
+        if (!array) [[unlikely]]
+            raise(RunTimeError::kTypeMismatch);
+        return *array;
+    }
+    [[noreturn]] static void raise(RunTimeError::Number number);
 
     Storage value_;
 };

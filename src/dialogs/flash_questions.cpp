@@ -105,7 +105,7 @@ std::string Smes::FLASH(int mode, Variant& T, Variant& P, const Variant& Z) {
     flash.run(T.toDouble());
     if (adiabatic && flash.found().outcome == FlashOutcome::Converged) T = flash.found().temperature;
     state.last.flash = flash.takeFound();
-    return flash.report();
+    return flash.takeReport();
 }
 
 }  // namespace velor

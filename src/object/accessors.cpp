@@ -40,7 +40,7 @@ Variant celsiusOrEmptyText(const ComponentSlots& slots, int i, float TLatka::*te
 }
 
 template <std::size_t Width>
-Variant textOrEmpty(const ComponentSlots& slots, int i, std::array<char, Width> TLatka::*text) {
+std::string textOrEmpty(const ComponentSlots& slots, int i, std::array<char, Width> TLatka::*text) {
     if (slotIsEmpty(slots, i)) return "";
     const auto& field = recordOf(slots, i).*text;
     return decodeWindows1250({field.data(), field.size()});
@@ -80,7 +80,7 @@ Variant Smes::Permiti(int i) const { return constantOf(state_->definition.slots,
 Variant Smes::TPermiti(int i) const { return constantOf(state_->definition.slots, i, &TLatka::TPermit); }
 Variant Smes::Gyr(int i) const { return constantOf(state_->definition.slots, i, &TLatka::Gyr); }
 
-std::string componentName(const ComponentSlots& slots, int i) { return textOrEmpty(slots, i, &TLatka::Nazev).toText(); }
+std::string componentName(const ComponentSlots& slots, int i) { return textOrEmpty(slots, i, &TLatka::Nazev); }
 
 Variant Smes::Nazev(int i) const { return textOrEmpty(state_->definition.slots, i, &TLatka::Nazev); }
 Variant Smes::Vzorec(int i) const { return textOrEmpty(state_->definition.slots, i, &TLatka::Vzorec); }

@@ -47,7 +47,7 @@ class ComponentSlots {
     };
 
     std::array<Slot, kCount> slots_{};
-    std::uint64_t revision_ = 0;
+    std::uint64_t revision_ = 1;  // 0 belongs to nothing yet prepared
 };
 
 // Fractions kept per component; Empty until one is set.

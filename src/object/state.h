@@ -10,6 +10,7 @@
 #include "object/messages.h"
 #include "object/nobody.h"
 #include "object/slots.h"
+#include "rules/pseudocritical.h"
 #include "velor/flash_record.h"
 #include "velor/substances.h"
 #include "velor/user_interface.h"
@@ -67,6 +68,12 @@ struct RealGasState {
     std::optional<double> jouleThomson;    // K/Pa
 };
 
+// What the last PSEUD found.
+struct LastPseudocritical {
+    bool wasTried = false;                // false: no PSEUD yet
+    std::optional<Pseudocritical> value;  // none where it gave up
+};
+
 struct LastResults {
     KeptFractions Slozeni;           // the last mixture call's composition
     KeptFractions Zlomky;            // the last conversion's result
@@ -77,14 +84,16 @@ struct LastResults {
     SaturationOutcome bubblePoint = SaturationOutcome::None, dewPoint = SaturationOutcome::None;
     FlashRecord flash;
     double flashPressure = 0;  // Pa, vapour pressure kept from the last iterated flash: the next report prints it
-    Variant TKRITsm, PKRITsm, VKRITsm, ZKRITsm, MSm;  // of the last PSEUD
+    LastPseudocritical pseudocritical;
 };
 
 // Constants that the rooms below prepare from the records; each room knows what is in them.
+struct PreparedCorrelations;
 struct PreparedGas;
 struct PreparedGasMixing;
 
 struct Prepared {
+    std::shared_ptr<PreparedCorrelations> correlations;
     std::shared_ptr<PreparedGas> gas;
     std::shared_ptr<PreparedGasMixing> gasMixing;
 };

@@ -79,8 +79,12 @@ Equilibrium Flash::equilibrium(double T) {
     const bool first = found_.equilibrium.empty();
     if (adiabatic_ || first) {
         const Composition z(found_.feed);
+        const std::int16_t messagesBefore = state_.messages.PocHlasek;
         state_.last.flashPressure = TENS(state_, T, z).value_or(0.0);
-        TENS(state_, T + kFlashTemperatureStep, z);  // only for the messages that it may show
+        // Again at the warmer temperature, only for what that may tell: a message of the records, which does not depend
+        // on the temperature, or an error that the host wants raised.
+        if (state_.messages.PocHlasek != messagesBefore || state_.messages.ChyboveHlasky == -1)
+            TENS(state_, T + kFlashTemperatureStep, z);
     }
     if (adiabatic_ || first || messagesShown_) gatherEquilibrium(T);
     return {found_.equilibrium, slopes_};
@@ -111,9 +115,10 @@ double Flash::vapourEnthalpy(double T, const std::vector<double>& y) {
 
 void Flash::appendResults(double T0) {
     std::vector<std::string> names;
+    names.reserve(found_.feed.size());
     for (int i = 1; i <= static_cast<int>(found_.feed.size()); ++i)
         names.push_back(componentName(state_.definition.slots, i));
-    report_ += flashReport({T0, found_.temperature, state_.last.flashPressure, P_}, found_, names);
+    appendFlashReport(report_, {T0, found_.temperature, state_.last.flashPressure, P_}, found_, names);
 }
 
 const FlashRecord& Smes::lastFlash() const { return state_->last.flash; }

@@ -21,7 +21,7 @@ class Flash {
 
     const FlashRecord& found() const { return found_; }
     FlashRecord takeFound() { return std::move(found_); }
-    const std::string& report() const { return report_; }
+    std::string takeReport() { return std::move(report_); }
 
   private:
     void finishTrivially(FlashOutcome outcome, double V, const char* text);

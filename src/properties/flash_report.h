@@ -16,6 +16,7 @@ struct FlashReport {
     double endPressure = 0;       // Pa
 };
 
-std::string flashReport(const FlashReport& conditions, const FlashRecord& result, std::span<const std::string> names);
+void appendFlashReport(std::string& report, const FlashReport& conditions, const FlashRecord& result,
+                       std::span<const std::string> names);
 
 }  // namespace velor

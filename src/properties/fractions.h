@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <span>
 
 #include "object/state.h"
@@ -34,7 +35,8 @@ class ComponentValues {
   public:
     explicit ComponentValues(int count = ComponentSlots::kCount)
         : count_(std::clamp(count, 0, ComponentSlots::kCount)) {
-        std::fill_n(values_.begin(), count_, 0.0);  // only these: clearing all 20 costs more than a rule
+        // Only these, and in pairs: what fills a block at once takes longer to start than a rule to compute.
+        for (std::size_t i = 0; i < static_cast<std::size_t>(count_); i += 2) values_[i] = values_[i + 1] = 0.0;
     }
 
     double& operator[](int i) {
@@ -49,6 +51,7 @@ class ComponentValues {
 
   private:
     int count_;
+    static_assert(ComponentSlots::kCount % 2 == 0);
     std::array<double, ComponentSlots::kCount> values_;
 };
 

@@ -14,6 +14,8 @@ constexpr double kReferencePressure = 0.101325;  // MPa
 
 PreparedComponent::PreparedComponent(const TLatka& record, const ComponentSettings& settings)
     : record_(record), isClamped_(settings.isClamped) {
+    for (int k = 1; k <= kProperties; ++k)
+        correlations_[static_cast<std::size_t>(k - 1)] = PreparedCorrelation(record, record.Cislo, k);
     try {
         prepareGas(settings.attraction);
     } catch (const RunTimeError&) {
@@ -28,25 +30,26 @@ void PreparedComponent::prepareGas(Attraction attraction) {
     const double one = 1.0;
     const CubicParameters pure = mixtureParameters(attraction, Tb, {&one, 1}, {&*cubic_, 1});
     const CubicState residual = residualState(Tb, kReferencePressure, gasVolume(Tb, kReferencePressure, pure).V, pure);
-    const double DHV = correlation(kDHV, Tb);
+    if (!correlation(kDHV).hasEquation()) return;
+    const double DHV = heatOfVaporisation(Tb);
     gasReference_ = {DHV - residual.enthalpy, checked::divide(DHV, Tb) - residual.entropy,
                      HeatCapacityIntegral(heatCapacityOf(record_, isClamped_), Tb)};
 }
 
-double PreparedComponent::correlation(int k, const Temperature& T) const {
+double PreparedComponent::heatOfVaporisation(double T) const {
     try {
-        return correlationValue(record_, record_.Cislo, isClamped_, T, k);
+        return correlation(kDHV).value(T, isClamped_);
     } catch (const RunTimeError&) {
         return kNoValue;
     }
 }
 
 PropertyValue PreparedComponent::pure(int k, const Temperature& T) const {
-    const TKorelace& block = record_.Korelace[static_cast<std::size_t>(k - 1)];
-    if (block.Priznak == 0) return {Standing::NotGiven};
-    if (!isEquationType(block.Typ)) return {Standing::Failed};
+    const PreparedCorrelation& prepared = correlation(k);
+    if (!prepared.isGiven()) return {Standing::NotGiven};
+    if (!prepared.hasEquation()) return {Standing::Failed};
     try {
-        return judged(correlationValue(record_, record_.Cislo, isClamped_, T, k), record_, isClamped_, T, k);
+        return judged(prepared.value(T, isClamped_), record_, isClamped_, T, k);
     } catch (const RunTimeError&) {
         return {Standing::Failed};
     }

@@ -4,6 +4,7 @@
 #include <array>
 #include <optional>
 
+#include "properties/prepared_correlation.h"
 #include "rules/equation_of_state.h"
 #include "rules/equations.h"
 #include "rules/ideal_gas.h"
@@ -39,11 +40,15 @@ class PreparedComponent {
     const std::optional<GasReference>& gasReference() const { return gasReference_; }
 
   private:
-    double correlation(int k, const Temperature& T) const;
+    static constexpr int kProperties = 10;
+
+    const PreparedCorrelation& correlation(int k) const { return correlations_[static_cast<std::size_t>(k - 1)]; }
+    double heatOfVaporisation(double T) const;  // 1E-8 after an error, as FFce has it
     void prepareGas(Attraction attraction);
 
     TLatka record_;
     bool isClamped_;
+    std::array<PreparedCorrelation, kProperties> correlations_;
     std::optional<CubicComponent> cubic_;
     std::optional<GasReference> gasReference_;
 };

@@ -18,13 +18,12 @@ namespace {
 constexpr double kSumTolerance = 0.002;
 constexpr double kLeastSum = 0.25;  // a smaller sum is not normalised
 
-void setMembers(State& state, const Variant& T, const Variant& P, const Variant& V, const Variant& Z,
-                const Variant& M) {
-    state.last.TKRITsm = T;
-    state.last.PKRITsm = P;
-    state.last.VKRITsm = V;
-    state.last.ZKRITsm = Z;
-    state.last.MSm = M;
+// Empty before the first PSEUD, the integer 0 after one that gave up.
+Variant member(const State& state, double Pseudocritical::*number) {
+    const LastPseudocritical& last = state.last.pseudocritical;
+    if (!last.wasTried) return {};
+    if (!last.value) return std::int16_t{0};
+    return *last.value.*number;
 }
 
 // Copies X into Slozeni, normalised where that is due; false when the sum is too small to go on. Only a message that
@@ -45,8 +44,7 @@ bool takeNormalised(State& state, const Composition& X, ComponentValues& x) {
 
 // Fills the five members; nothing, and the members 0, where there is nothing to compute.
 std::optional<Pseudocritical> computePseudocritical(State& state, const Composition& X) {
-    const std::int16_t zero = 0;
-    setMembers(state, zero, zero, zero, zero, zero);
+    state.last.pseudocritical = {true, std::nullopt};
     if (state.definition.PocSlozek <= 0 && mixtureMessageIsDue(state.messages)) {
         showCounted(state.messages, "Směs není definována!", Icon::Exclamation);
         return std::nullopt;
@@ -65,8 +63,7 @@ std::optional<Pseudocritical> computePseudocritical(State& state, const Composit
     for (const double value :
          {mixture.temperature, mixture.pressure, mixture.volume, mixture.compressibility, mixture.molarMass})
         checked::finite(value);
-    setMembers(state, mixture.temperature, mixture.pressure, mixture.volume, mixture.compressibility,
-               mixture.molarMass);
+    state.last.pseudocritical.value = mixture;
     return mixture;
 }
 
@@ -82,11 +79,11 @@ Variant Smes::PSEUD(const Variant& X, const std::string& Sel) {
     loadComponents(state);
     const std::string choice = upperCase(Sel);
     const bool computed = computePseudocritical(state, Composition(X)).has_value();
-    if (computed && choice == "T") return state.last.TKRITsm;
-    if (computed && choice == "P") return state.last.PKRITsm;
-    if (computed && choice == "V") return state.last.VKRITsm;
-    if (computed && choice == "Z") return state.last.ZKRITsm;
-    if (computed && choice == "M") return state.last.MSm;
+    if (computed && choice == "T") return TKRITsm();
+    if (computed && choice == "P") return PKRITsm();
+    if (computed && choice == "V") return VKRITsm();
+    if (computed && choice == "Z") return ZKRITsm();
+    if (computed && choice == "M") return MSm();
     return "PSEUD?";
 }
 
@@ -97,17 +94,17 @@ void Smes::PseudShow(const Variant& X) {
     const std::string end(kLineBreak);
     show(state_->messages,
          "Pseudokritické veličiny směsi " + end + mixtureName(state.settings) + end +
-             "TKRITsm(K) = " + Format(state.last.TKRITsm.toDouble(), "0.0") + end +
-             "PKRITsm(MPa) = " + Format(state.last.PKRITsm.toDouble() / 1000000, "0.000") + end +
-             "VKRITsm(m3/mol) = " + Format(state.last.VKRITsm.toDouble(), "0.000E+00") + end +
-             "ZKRITsm(-) = " + Format(state.last.ZKRITsm.toDouble(), "0.0000") + end,
+             "TKRITsm(K) = " + Format(TKRITsm().toDouble(), "0.0") + end +
+             "PKRITsm(MPa) = " + Format(PKRITsm().toDouble() / 1000000, "0.000") + end +
+             "VKRITsm(m3/mol) = " + Format(VKRITsm().toDouble(), "0.000E+00") + end +
+             "ZKRITsm(-) = " + Format(ZKRITsm().toDouble(), "0.0000") + end,
          Icon::Information);
 }
 
-Variant Smes::TKRITsm() const { return state_->last.TKRITsm; }
-Variant Smes::PKRITsm() const { return state_->last.PKRITsm; }
-Variant Smes::VKRITsm() const { return state_->last.VKRITsm; }
-Variant Smes::ZKRITsm() const { return state_->last.ZKRITsm; }
-Variant Smes::MSm() const { return state_->last.MSm; }
+Variant Smes::TKRITsm() const { return member(*state_, &Pseudocritical::temperature); }
+Variant Smes::PKRITsm() const { return member(*state_, &Pseudocritical::pressure); }
+Variant Smes::VKRITsm() const { return member(*state_, &Pseudocritical::volume); }
+Variant Smes::ZKRITsm() const { return member(*state_, &Pseudocritical::compressibility); }
+Variant Smes::MSm() const { return member(*state_, &Pseudocritical::molarMass); }
 
 }  // namespace velor

@@ -3,6 +3,7 @@
 #include <string>
 
 #include "object/trap.h"
+#include "properties/prepared_correlation.h"
 #include "rules/equations.h"
 #include "runtime/numbers.h"
 #include "runtime/text.h"
@@ -14,7 +15,6 @@ namespace velor {
 namespace {
 
 constexpr int kProperties = 10;
-constexpr double kBelowCritical = 0.98;
 
 bool exists(const State& state, int i, int k) {
     return k >= 1 && k <= kProperties && i >= 1 && i <= state.definition.PocSlozek;
@@ -47,7 +47,8 @@ std::string substanceAndProperty(const State& state, int i, int k) {
                 Icon::None);
 }
 
-[[gnu::noinline]] double reportInvalidType(State& state, double T, int i, int k, int type) {
+[[gnu::noinline]] double reportInvalidType(State& state, double T, int i, int k) {
+    const int type = state.definition.slots.Latka(i).Korelace[static_cast<std::size_t>(k - 1)].Typ;
     const std::string temperature = kLineBreak + ("Teplota(K)= " + Format(T, "#0.0"));
     if (engineMessageIsDue(state.messages)) {
         showCounted(state.messages,
@@ -61,37 +62,12 @@ std::string substanceAndProperty(const State& state, int i, int k) {
     return kNoValue;
 }
 
-double workingTemperature(const TLatka& record, const TKorelace& block, bool isClamped, double T, int k) {
-    double Tx = T;
-    // Above the critical point the liquid's correlations are evaluated just below it, on purpose.
-    if (isTakenBelowCritical(k, record.Tkr, T)) Tx = kBelowCritical * record.Tkr;
-    if (isClamped) {  // the caller's T is compared, not the one just set
-        if (T < block.Tmin) Tx = block.Tmin;
-        if (T > block.Tmax) Tx = block.Tmax;
-    }
-    return Tx;
-}
-
-const TKorelace& blockOf(const TLatka& record, int k) {
-    if (k < 1 || k > TLatka::kCorrelations) checked::raise(RunTimeError::kSubscript);
-    return record.Korelace[static_cast<std::size_t>(k - 1)];
-}
-
 }  // namespace
-
-double correlationValue(const TLatka& record, int number, bool isClamped, const Temperature& T, int k) {
-    const TKorelace& block = blockOf(record, k);
-    const Equation& equation = equationOf(block.Typ);
-    const double Tx = workingTemperature(record, block, isClamped, T, k);
-    if (k == kROLW && number == kWater) return waterDensity(Tx);
-    // A T that was not moved brings the logarithm that the components share.
-    return Tx == T ? equation.value(block.A, T) : equation.value(block.A, Tx);
-}
 
 PropertyValue judged(double value, const TLatka& record, bool isClamped, double T, int k) {
     if (value == kNoValue) return {Standing::BeyondReference};
     if (value < 0) return {Standing::Failed};  // an equation far outside its range: none of the ten is negative
-    const TKorelace& block = blockOf(record, k);
+    const TKorelace& block = record.Korelace[static_cast<std::size_t>(k - 1)];
     const bool isOutside = T < block.Tmin || T > block.Tmax;
     if (isOutside && isClamped) return {Standing::AtBound, value};
     if (isTakenBelowCritical(k, record.Tkr, T)) return {Standing::BelowCritical, value};
@@ -99,21 +75,25 @@ PropertyValue judged(double value, const TLatka& record, bool isClamped, double 
 }
 
 HeatCapacity heatCapacityOf(const TLatka& record, bool isClamped) {
-    const TKorelace& block = blockOf(record, kCPG);
+    const TKorelace& block = record.Korelace[kCPG - 1];
     return {block.A, block.Typ, isClamped, static_cast<double>(block.Tmin), static_cast<double>(block.Tmax)};
 }
 
 namespace {
 
 double evaluate(State& state, const Temperature& T, int i, int k) {
-    const TLatka& record = state.definition.slots.Latka(i);
-    const TKorelace& block = blockOf(record, k);
-    if (block.Priznak == 0) [[unlikely]]
+    const PreparedCorrelation* correlation = &preparedCorrelation(state, i, k);
+    if (!correlation->isGiven()) [[unlikely]] {
         reportMissing(state, i, k);
-    if (!isEquationType(block.Typ)) [[unlikely]]
-        return reportInvalidType(state, T, i, k, block.Typ);
-    return correlationValue(record, state.definition.slots.CisloLatky(i), state.settings.MezeTeplot > 0, T, k);
+        correlation = &preparedCorrelation(state, i, k);  // the host may have changed it meanwhile
+    }
+    if (!correlation->hasEquation()) [[unlikely]]
+        return reportInvalidType(state, T, i, k);
+    return correlation->value(T, state.settings.MezeTeplot > 0);
 }
+
+const Temperature& kelvin(const Temperature& T) { return T; }
+Temperature kelvin(const Variant& T) { return T.toDouble(); }
 
 // What is raised to the host on purpose tells the substance and passes the trap as it is.
 template <class Body>
@@ -122,12 +102,24 @@ double valueOf(const State& state, const Body& body) {
         kNoValue, state.messages, [] { return std::string("FFce"); }, body);
 }
 
+// The whole of FFce: what is not prepared yet, and what there may be a message of. T is a Temperature or the host's.
+template <class Number>
+[[gnu::noinline]] double valueWithMessages(State& state, const Number& T, int i, int k) {
+    if (!exists(state, i, k) && rejects(state, i, k)) return 0.0;
+    return valueOf(state, [&] { return evaluate(state, kelvin(T), i, k); });
+}
+
+template <class Number>
+double pureValue(State& state, const Number& T, int i, int k) {
+    const PreparedCorrelation* kept = exists(state, i, k) ? keptCorrelation(state, i, k) : nullptr;
+    if (!kept) [[unlikely]]
+        return valueWithMessages(state, T, i, k);
+    return valueOf(state, [&] { return kept->value(kelvin(T), state.settings.MezeTeplot > 0); });
+}
+
 }  // namespace
 
-double FFce(State& state, const Temperature& T, int i, int k) {
-    if (!exists(state, i, k) && rejects(state, i, k)) return 0.0;
-    return valueOf(state, [&] { return evaluate(state, T, i, k); });
-}
+double FFce(State& state, const Temperature& T, int i, int k) { return pureValue(state, T, i, k); }
 
 std::string_view propertyName(int k) {
     if (k >= 1 && k <= kProperties) return pureProperties()[static_cast<std::size_t>(k - 1)].code;
@@ -137,8 +129,7 @@ std::string_view propertyName(int k) {
 Variant Smes::FFce(const Variant& T, int i, int k) {
     const PublicCall call(*state_);
     requireInt16({i, k});
-    if (!exists(*state_, i, k) && rejects(*state_, i, k)) return 0.0;
-    return valueOf(*state_, [&] { return evaluate(*state_, T.toDouble(), i, k); });
+    return pureValue(*state_, T, i, k);
 }
 
 std::string Smes::ChybRozv(int k) { return std::string(propertyName(checkedInt16(k))); }

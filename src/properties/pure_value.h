@@ -21,11 +21,7 @@ inline bool isTakenBelowCritical(int k, double Tkr, double T) {
     return k >= kETAL && Tkr > kLeastCriticalTemperature && T > Tkr;
 }
 
-// Property k of a record at T as FFce evaluates it, without its messages: below the critical point, clamped into the
-// range, water's density by an equation of its own. Errors: those of evaluateEquation.
-double correlationValue(const TLatka& record, int number, bool isClamped, const Temperature& T, int k);
-
-// The verdict on that value.
+// The verdict on property k (1..10) of a record that FFce evaluates to the value at T.
 PropertyValue judged(double value, const TLatka& record, bool isClamped, double T, int k);
 
 // The heat capacity of the ideal gas.

@@ -12,7 +12,6 @@ using checked::divide;
 using checked::exponential;
 using checked::finite;
 using checked::kLn10;
-using checked::naturalLogarithm;
 using checked::squareRoot;
 
 double tenTo(double exponent) { return exponential(kLn10 * exponent); }
@@ -25,6 +24,11 @@ double power(double base, double exponent) {
 // T^exponent by the logarithm that T shares.
 double power(const Temperature& T, double exponent) {
     return T > 0.0 ? exponential(exponent * T.logarithm()) : checked::power(T, exponent);
+}
+
+// Of A1 or A2, by its prepared logarithm.
+double powerOf(const EquationConstants& A, std::size_t j, double exponent) {
+    return A[j] > 0.0 ? exponential(exponent * A.logarithm(j)) : checked::power(A[j], exponent);
 }
 
 // Nearly every vapour pressure has one of three whole exponents; a product is a third of a power's cost.
@@ -40,44 +44,44 @@ double powerOfVapourPressure(const Temperature& T, double exponent) {
 
 // By Horner's scheme from the top.
 template <std::size_t degree>
-double polynomial(const Coefficients& A, double T) {
+double polynomial(const EquationConstants& A, double T) {
     double y = A[degree];
     for (std::size_t j = degree; j-- > 0;) y = y * T + A[j];
     return y;
 }
 
-double antoine(const Coefficients& A, double T) { return exponential(A[0] + divide(A[1], A[2] + T)); }
+double antoine(const EquationConstants& A, double T) { return exponential(A[0] + divide(A[1], A[2] + T)); }
 
-double rackett(const Coefficients& A, double T) {
+double rackett(const EquationConstants& A, double T) {
     constexpr double kTwoSevenths = 0.285714;  // six digits, kept
     if (T > A[2]) return kNoValue;
     const double root = power(1.0 - divide(T, A[2]), kTwoSevenths);
-    return 1000.0 * exponential(naturalLogarithm(A[0]) - root * naturalLogarithm(A[1]));
+    return 1000.0 * exponential(A.logarithm(0) - root * A.logarithm(1));
 }
 
-double watson(const Coefficients& A, double T) {
+double watson(const EquationConstants& A, double T) {
     if (T > A[3]) return kNoValue;
-    const double ratio = divide(A[3] - T, static_cast<double>(A[3]) - A[1]);
+    const double ratio = divide(A[3] - T, A[3] - A[1]);
     if (ratio < 0.0) return kNoValue;
     return A[0] * power(ratio, A[2]);
 }
 
-double decimalWithLogarithm(const Coefficients& A, const Temperature& T) {
+double decimalWithLogarithm(const EquationConstants& A, const Temperature& T) {
     return exponential(kLn10 * (A[0] + divide(A[1], A[2] + T) + A[4] * T + A[5] * T * T) + A[3] * T.logarithm());
 }
 
-double decimalQuadratic(const Coefficients& A, double T) {
+double decimalQuadratic(const EquationConstants& A, double T) {
     return tenTo(A[0] + divide(A[1], A[4] + T) + A[2] * T + A[3] * T * T);
 }
 
-double reciprocalCubic(const Coefficients& A, double T) {
+double reciprocalCubic(const EquationConstants& A, double T) {
     const double r = divide(1.0, T);
     return exponential(A[0] + r * (A[1] + r * (A[2] + r * A[3])));
 }
 
-double sutherland(const Coefficients& A, double T) { return divide(A[0] * (T * squareRoot(T)), T + A[1]); }
+double sutherland(const EquationConstants& A, double T) { return divide(A[0] * (T * squareRoot(T)), T + A[1]); }
 
-double wagner(const Coefficients& A, double T) {
+double wagner(const EquationConstants& A, double T) {
     if (!(T < A[4])) return kNoValue;
     const double Tr = divide(T, A[4]);
     const double t = 1.0 - Tr;
@@ -86,42 +90,42 @@ double wagner(const Coefficients& A, double T) {
     return A[5] * exponential(divide(sum * A[4], T));
 }
 
-double reducedTension(const Coefficients& A, double T) {
+double reducedTension(const EquationConstants& A, double T) {
     constexpr double kOneSixth = 0.166667;  // six digits, kept
     if (!(T < A[1])) return kNoValue;
     const double Tr = divide(T, A[1]);
     return divide(A[0] * power(1.0 - Tr, 0.38), power(Tr, kOneSixth));
 }
 
-double daubert(const Coefficients& A, double T) {
+double daubert(const EquationConstants& A, double T) {
     if (T > A[2]) return kNoValue;
     const double base = 1.0 - divide(T, A[2]);
     if (base < 0.0) return kNoValue;
-    return divide(A[0], power(A[1], 1.0 + power(base, A[3])));
+    return divide(A[0], powerOf(A, 1, 1.0 + power(base, A[3])));
 }
 
-double reducedQuadratic(const Coefficients& A, double T) {
+double reducedQuadratic(const EquationConstants& A, double T) {
     if (T > A[5]) return kNoValue;
     const double Tr = divide(T, A[5]);
     return A[0] * (1.0 - Tr) * (A[1] + A[2] * Tr + A[3] * Tr * Tr);
 }
 
-double referenceReciprocal(const Coefficients& A, double T) {
+double referenceReciprocal(const EquationConstants& A, double T) {
     return tenTo(A[0] * (divide(1.0, T) - divide(1.0, A[1])) + A[2]);
 }
 
-double extendedAntoine(const Coefficients& A, const Temperature& T) {
+double extendedAntoine(const EquationConstants& A, const Temperature& T) {
     return exponential(A[0] + divide(A[1], T) + A[2] * T.logarithm() + A[3] * powerOfVapourPressure(T, A[4]));
 }
 
-double gasTransport(const Coefficients& A, const Temperature& T) {
+double gasTransport(const EquationConstants& A, const Temperature& T) {
     const double r = divide(1.0, T);
     return divide(A[0] * power(T, A[1]), 1.0 + r * (A[2] + r * A[3]));
 }
 
 // What the table calls: the result has to be finite.
 template <auto equation>
-double finiteValue(const Coefficients& A, const Temperature& T) {
+double finiteValue(const EquationConstants& A, const Temperature& T) {
     return finite(equation(A, T));
 }
 
@@ -203,6 +207,11 @@ constexpr auto kTable = std::to_array<Equation>({
 }  // namespace
 
 constinit const std::span<const Equation> kEquations = kTable;
+
+void EquationConstants::prepareLogarithms() {
+    for (std::size_t j = 0; j < logarithms_.size(); ++j)
+        if (A_[j] > 0.0 && std::isfinite(A_[j])) logarithms_[j] = std::log(A_[j]);
+}
 
 std::string_view equationText(int type) { return isEquationType(type) ? equationOf(type).text : " Neznámý vztah! "; }
 

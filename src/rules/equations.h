@@ -2,7 +2,9 @@
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstdint>
+#include <limits>
 #include <span>
 #include <string>
 #include <string_view>
@@ -16,12 +18,34 @@ using Coefficients = std::array<float, 6>;  // A1..A6
 // The value where an equation has none: beyond its reference temperature, or after an error.
 inline constexpr double kNoValue = 1E-8;
 
+// The coefficients as an equation computes with them.
+class EquationConstants {
+  public:
+    EquationConstants() = default;
+    EquationConstants(const Coefficients& A) : A_{A[0], A[1], A[2], A[3], A[4], A[5]} {}
+
+    double operator[](std::size_t j) const { return A_[j]; }  // 0 is A1
+
+    // Of A1 or A2. Errors: 5 it does not exist, 6 a damaged coefficient.
+    double logarithm(std::size_t j) const {
+        return std::isnan(logarithms_[j]) ? checked::naturalLogarithm(A_[j]) : logarithms_[j];
+    }
+    // Computes those that exist beforehand; the others stay to be refused when they are asked for.
+    void prepareLogarithms();
+
+  private:
+    static constexpr double kUnknown = std::numeric_limits<double>::quiet_NaN();
+
+    std::array<double, 6> A_{};
+    std::array<double, 2> logarithms_{kUnknown, kUnknown};
+};
+
 // What is known of one equation.
 struct Equation {
-    double (*value)(const Coefficients& A, const Temperature& T);  // see evaluateEquation
-    std::string_view text;                                         // how it is shown to the user
-    std::uint8_t used;                                             // its coefficients, A1 the lowest bit
-    int degree = 0;                                                // of a polynomial a1 + a2 T + ...; 0: it is none
+    double (*value)(const EquationConstants& A, const Temperature& T);  // see evaluateEquation
+    std::string_view text;                                              // how it is shown to the user
+    std::uint8_t used;                                                  // its coefficients, A1 the lowest bit
+    int degree = 0;                // of a polynomial a1 + a2 T + ...; 0: it is none
     int reference = 0;             // the coefficient that is the reference temperature, 1 A1 ...; 0: it has none
     std::string_view source = {};  // author and year, where the form is anybody's
 
@@ -46,6 +70,23 @@ inline const Equation& equationOf(int type) {
 inline double evaluateEquation(int type, const Coefficients& A, const Temperature& T) {
     return equationOf(type).value(A, T);
 }
+
+// An equation with its coefficients, for many temperatures.
+class PreparedEquation {
+  public:
+    PreparedEquation() = default;  // not to be evaluated
+    // Error 9: no type.
+    PreparedEquation(int type, const Coefficients& A) : value_(equationOf(type).value), constants_(A) {
+        constants_.prepareLogarithms();
+    }
+
+    // See evaluateEquation.
+    double operator()(const Temperature& T) const { return value_(constants_, T); }
+
+  private:
+    double (*value_)(const EquationConstants& A, const Temperature& T) = nullptr;
+    EquationConstants constants_;
+};
 
 // The degree of a polynomial; 0 where the type is none.
 inline int polynomialDegree(int type) { return isEquationType(type) ? equationOf(type).degree : 0; }

@@ -1,7 +1,7 @@
 #include "rules/gas.h"
 
+#include <array>
 #include <cstddef>
-#include <vector>
 
 #include "runtime/checked.h"
 #include "runtime/physical_constants.h"
@@ -11,6 +11,7 @@ namespace velor {
 namespace {
 
 constexpr double kMasonSaxena = 0.35355;  // five decimals, kept, where 1/sqrt(8) was meant
+constexpr std::size_t kMostComponents = 20;
 
 }  // namespace
 
@@ -35,7 +36,8 @@ double gasViscosity(std::span<const double> x, std::span<const double> M, std::s
 double gasConductivity(std::span<const double> x, std::span<const PairFactor> pairs, std::span<const double> eta,
                        std::span<const double> lambda) {
     const std::size_t n = x.size();
-    std::vector<double> root(n), reciprocalRoot(n);
+    if (n > kMostComponents) checked::raise(RunTimeError::kSubscript);
+    std::array<double, kMostComponents> root, reciprocalRoot;
     for (std::size_t i = 0; i < n; ++i) {
         root[i] = checked::squareRoot(eta[i]);
         reciprocalRoot[i] = checked::divide(1.0, root[i]);

@@ -20,7 +20,7 @@ double gasViscosity(std::span<const double> x, std::span<const double> M, std::s
 
 // Wassiljewa (1904) with the factor of Mason and Saxena (1958): sum(x_i lambda_i / sum_j(x_j phi_ij)),
 // phi_ij = 0.35355 (1 + sqrt(eta_i/eta_j) (Mi/Mj)^(-1/4))^2 / sqrt(1 + Mi/Mj). [W/(m K)] pairs holds n x n factors by
-// rows. Errors: 5 a negative viscosity, 11 a viscosity of 0 or a row without fractions.
+// rows. Errors: 5 a negative viscosity, 9 more than 20 components, 11 a viscosity of 0 or a row without fractions.
 double gasConductivity(std::span<const double> x, std::span<const PairFactor> pairs, std::span<const double> eta,
                        std::span<const double> lambda);
 

@@ -11,6 +11,7 @@ namespace velor::checked {
 inline constexpr double kLn10 = 2.302585092994046;
 
 [[noreturn]] void raise(RunTimeError::Number number);
+[[noreturn]] void raiseDivision(double denominator);  // 11 for zero, else 6
 
 inline double finite(double value) {
     if (!std::isfinite(value)) [[unlikely]]
@@ -19,9 +20,10 @@ inline double finite(double value) {
 }
 
 inline double divide(double numerator, double denominator) {
-    if (denominator == 0.0) [[unlikely]]
-        raise(RunTimeError::kDivisionByZero);
-    return finite(numerator / finite(denominator));
+    const double quotient = numerator / denominator;  // not finite by zero
+    if (!std::isfinite(denominator) || !std::isfinite(quotient)) [[unlikely]]
+        raiseDivision(denominator);
+    return quotient;
 }
 
 inline double exponential(double exponent) { return finite(std::exp(finite(exponent))); }

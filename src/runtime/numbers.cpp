@@ -83,16 +83,6 @@ std::int16_t roundToInt16(double value) {
     return static_cast<std::int16_t>(rounded);
 }
 
-std::int16_t checkedInt16(int value) {
-    if (!std::in_range<std::int16_t>(value)) [[unlikely]]
-        checked::raise(RunTimeError::kOverflow);
-    return static_cast<std::int16_t>(value);
-}
-
-void requireInt16(std::initializer_list<int> values) {
-    for (const int value : values) checkedInt16(value);
-}
-
 double parseLeadingNumber(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     const std::size_t length = numberLength(text);

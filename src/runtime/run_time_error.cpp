@@ -47,4 +47,8 @@ RunTimeError::RunTimeError(std::int32_t number, std::string source, std::string 
 
 void checked::raise(RunTimeError::Number number) { throw RunTimeError(number); }
 
+void checked::raiseDivision(double denominator) {
+    raise(denominator == 0.0 ? RunTimeError::kDivisionByZero : RunTimeError::kOverflow);
+}
+
 }  // namespace velor

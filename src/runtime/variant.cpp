@@ -78,21 +78,7 @@ int Variant::upperBound() const {
     return array.lowerBound + static_cast<int>(array.elements.size()) - 1;
 }
 
-const Variant::Array& Variant::heldArray() const {
-    const Array* array = std::get_if<Array>(&value_);
-    if (!array) checked::raise(RunTimeError::kTypeMismatch);
-    return *array;
-}
-
-const Variant& Variant::at(int index) const {
-    const Array& array = heldArray();
-    const std::int64_t offset = static_cast<std::int64_t>(index) - array.lowerBound;
-    if (offset < 0 || static_cast<std::size_t>(offset) >= array.elements.size())
-        checked::raise(RunTimeError::kSubscript);
-    return array.elements[static_cast<std::size_t>(offset)];
-}
-
-Variant& Variant::at(int index) { return const_cast<Variant&>(std::as_const(*this).at(index)); }
+void Variant::raise(RunTimeError::Number number) { checked::raise(number); }
 
 Variant List(std::initializer_list<Variant> elements) { return Variant::array(0, elements); }
 Variant List(std::span<const int> elements) { return Variant::array(0, asVariants(elements)); }

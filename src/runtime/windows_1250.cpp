@@ -34,14 +34,14 @@ std::optional<char> encodeCharacter(char32_t codePoint) {
 }  // namespace
 
 std::string decodeWindows1250(std::string_view bytes) {
-    std::string text;
-    text.reserve(bytes.size());
-    for (const char byte : bytes) {
-        const auto code = static_cast<unsigned char>(byte);
-        if (code < 0x80) {
+    const auto isAscii = [](char byte) { return static_cast<unsigned char>(byte) < 0x80; };
+    const auto other = std::find_if_not(bytes.begin(), bytes.end(), isAscii);
+    std::string text(bytes.begin(), other);  // most texts end here
+    for (const char byte : bytes.substr(text.size())) {
+        if (isAscii(byte)) {
             text += byte;
         } else {
-            appendCodePoint(text, kUpperHalf[code - 0x80U]);
+            appendCodePoint(text, kUpperHalf[static_cast<unsigned char>(byte) - 0x80U]);
         }
     }
     return text;

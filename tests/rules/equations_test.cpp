@@ -47,6 +47,7 @@ TEST(Equations, agreeWithPointsWorkedOutByHand) {
     for (const Point& p : points) {
         SCOPED_TRACE("type " + std::to_string(p.type));
         EXPECT_NEAR(evaluateEquation(p.type, p.A, p.T) / p.y, 1.0, 5e-14);
+        EXPECT_EQ(PreparedEquation(p.type, p.A)(p.T), evaluateEquation(p.type, p.A, p.T));
         // A damaged coefficient shows where the table says that it is used, and nowhere else.
         const Equation& equation = equationOf(p.type);
         for (std::size_t j = 0; j < p.A.size(); ++j) {
@@ -101,8 +102,10 @@ TEST(Equations, raiseWhatArithmeticRefuses) {
         {0, {}, 300, 9}, {99, {}, 300, 9},
     };
     // clang-format on
-    for (const Point& f : failures)
+    for (const Point& f : failures) {
         EXPECT_EQ(errorNumber([&] { evaluateEquation(f.type, f.A, f.T); }), f.y) << "type " << f.type << " at " << f.T;
+        EXPECT_EQ(errorNumber([&] { PreparedEquation(f.type, f.A)(f.T); }), f.y) << "type " << f.type << " at " << f.T;
+    }
 }
 
 TEST(WaterDensity, agreesWithTheSaturatedLiquidOfIapws) {
