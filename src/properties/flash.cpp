@@ -6,6 +6,7 @@
 #include "object/trap.h"
 #include "properties/flash_report.h"
 #include "properties/liquid.h"
+#include "properties/prepared_correlation.h"
 #include "properties/pure_value.h"
 #include "properties/saturation.h"
 #include "properties/state_functions.h"
@@ -13,6 +14,17 @@
 #include "velor/smes.h"
 
 namespace velor {
+
+namespace {
+
+bool mayTellOfVapourPressures(const State& state, std::size_t components) {
+    if (state.messages.ChyboveHlasky == -1) return true;  // any error is raised to the host
+    for (int i = 1; i <= static_cast<int>(components); ++i)
+        if (!keptCorrelation(state, i, kTENS)) return true;
+    return false;
+}
+
+}  // namespace
 
 Flash::Flash(State& state, bool adiabatic, double P, std::vector<double> feed)
     : state_(state), adiabatic_(adiabatic), P_(P) {
@@ -79,12 +91,9 @@ Equilibrium Flash::equilibrium(double T) {
     const bool first = found_.equilibrium.empty();
     if (adiabatic_ || first) {
         const Composition z(found_.feed);
-        const std::int16_t messagesBefore = state_.messages.PocHlasek;
         state_.last.flashPressure = TENS(state_, T, z).value_or(0.0);
-        // Again at the warmer temperature, only for what that may tell: a message of the records, which does not depend
-        // on the temperature, or an error that the host wants raised.
-        if (state_.messages.PocHlasek != messagesBefore || state_.messages.ChyboveHlasky == -1)
-            TENS(state_, T + kFlashTemperatureStep, z);
+        // Again at the warmer temperature, only for a message or an error that this may tell.
+        if (mayTellOfVapourPressures(state_, found_.feed.size())) TENS(state_, T + kFlashTemperatureStep, z);
     }
     if (adiabatic_ || first || messagesShown_) gatherEquilibrium(T);
     return {found_.equilibrium, slopes_};
