@@ -30,13 +30,13 @@ void PreparedComponent::prepareGas(Attraction attraction) {
     const double one = 1.0;
     const CubicParameters pure = mixtureParameters(attraction, Tb, {&one, 1}, {&*cubic_, 1});
     const CubicState residual = residualState(Tb, kReferencePressure, gasVolume(Tb, kReferencePressure, pure).V, pure);
-    if (!correlation(kDHV).hasEquation()) return;
     const double DHV = heatOfVaporisation(Tb);
     gasReference_ = {DHV - residual.enthalpy, checked::divide(DHV, Tb) - residual.entropy,
                      HeatCapacityIntegral(heatCapacityOf(record_, isClamped_), Tb)};
 }
 
 double PreparedComponent::heatOfVaporisation(double T) const {
+    if (!correlation(kDHV).hasEquation()) return kNoValue;
     try {
         return correlation(kDHV).value(T, isClamped_);
     } catch (const RunTimeError&) {
