@@ -53,7 +53,7 @@ struct Compositions {
 };
 
 struct TableOptions {
-    int threads = 1;  // that the points are divided among, as evenly as can be; the values do not depend on it
+    int threads = 1;  // up to 256, that the points are divided among evenly; the values do not depend on it
 };
 
 // A property of the mixture, in the catalogue's unit. T (kelvin) and P (pascals) hold one number for all points or one

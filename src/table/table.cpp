@@ -75,14 +75,17 @@ std::size_t numberOfPoints(std::span<double> values, std::span<Standing> verdict
     return std::max(values.size(), verdicts.size());
 }
 
+// Where the last of so many lies, told without multiplying what a caller made up.
+std::size_t lastOffset(std::size_t count, std::ptrdiff_t stride, std::size_t most) {
+    if (count <= 1 || stride == 0) return 0;
+    if (stride < 0 || static_cast<std::size_t>(stride) > most / (count - 1)) refuse();
+    return (count - 1) * static_cast<std::size_t>(stride);
+}
+
 void requireInside(const Compositions& X, std::size_t components, std::size_t points) {
-    const auto last = [](std::size_t count, std::ptrdiff_t stride) {
-        return (static_cast<std::ptrdiff_t>(count) - 1) * stride;
-    };
-    const std::ptrdiff_t byComponent = last(components, X.componentStride), byPoint = last(points, X.pointStride);
-    const std::ptrdiff_t lowest = std::min<std::ptrdiff_t>(0, byComponent) + std::min<std::ptrdiff_t>(0, byPoint);
-    const std::ptrdiff_t highest = std::max<std::ptrdiff_t>(0, byComponent) + std::max<std::ptrdiff_t>(0, byPoint);
-    if (lowest < 0 || highest >= std::ssize(X.values)) refuse();
+    if (X.values.empty()) refuse();
+    const std::size_t most = X.values.size() - 1;
+    if (lastOffset(components, X.componentStride, most) + lastOffset(points, X.pointStride, most) > most) refuse();
 }
 
 // The mole fractions of a point; false where they are none.
@@ -142,8 +145,10 @@ struct Results {
 // Divides the points evenly among the threads; each takes a run of neighbours.
 template <class Work>
 void divide(std::size_t points, int threads, const Work& work) {
-    const auto parts =
-        std::clamp<std::size_t>(static_cast<std::size_t>(std::max(threads, 1)), 1, std::max<std::size_t>(points, 1));
+    if (points == 0) return;
+    constexpr std::size_t kMostThreads = 256;
+    const std::size_t wanted = std::min(static_cast<std::size_t>(std::max(threads, 1)), kMostThreads);
+    const std::size_t parts = std::min(wanted, points);
     std::vector<std::jthread> others;
     for (std::size_t part = 1; part < parts; ++part)
         others.emplace_back(

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdint>
 #include <random>
 
 #include "support/real_mixture.h"
@@ -144,6 +145,8 @@ TEST(Table, whatDoesNotFitIsRefusedBeforeAnythingIsComputed) {
     refused(std::span(three).first(1), {x, 2});
     refused(std::span(three).first(1), {x, 1, 2});
     refused(std::span(three).first(1), {x, 1, -1});
+    refused(std::span(three).first(1), {x, 1, PTRDIFF_MAX});
+    evaluate(mixture, pureProperties()[0], 1, std::span(three).first(1), {}, {}, {.threads = 9});  // no point, no fault
     EXPECT_THROW(PreparedMixture(VELOR_DATABASE, std::vector<int>{}), RunTimeError);
     EXPECT_THROW(PreparedMixture(VELOR_DATABASE, std::vector<int>{32000}), RunTimeError);
     EXPECT_THROW(evaluate(mixture, pureProperties()[0], 3, std::span(three).first(2), two, {}), RunTimeError);

@@ -95,12 +95,12 @@ constexpr int kAsking = -1;
 
 [[noreturn]] void fail(const std::string& text) { throw Failure(ExitCode::NothingComputed, text); }
 
-// The components that are gases at T kelvin.
+// Which of the components that are there are gases at T kelvin.
 std::vector<std::string> gasesAt(double T, const Mixture& mixture, const MixtureObject& object) {
     std::vector<std::string> gases;
     for (std::size_t i = 0; i < mixture.substances.size(); ++i) {
         const double Tc = object.smes.Tkri(static_cast<int>(i) + 1).toDouble();
-        if (T > Tc)
+        if (T > Tc && mixture.moleFractions[i] > 0)
             gases.push_back(mixture.substances[i].name + " je nad kritickou teplotou (" + roundedText(Tc) + " K)");
     }
     return gases;
