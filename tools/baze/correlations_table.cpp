@@ -43,13 +43,6 @@ constexpr std::int16_t kGiven = 1;  // the usual Priznak of a block that is give
 
 bool isUsed(int type, std::size_t coefficient) { return isEquationType(type) && equationOf(type).uses(coefficient); }
 
-std::optional<int> readProperty(RowReader& row) {
-    for (int k = 1; k <= TLatka::kCorrelations; ++k)
-        if (Smes::ChybRozv(k) == row.cell(kProperty)) return k;
-    row.fault(kProperty, quoted(row.cell(kProperty)) + " není vlastnost (ETAG, CPG … SIGMA, Rezerva)");
-    return std::nullopt;
-}
-
 void readType(RowReader& row, TKorelace& block) {
     const auto type = row.integer("Typ");
     block.Typ = type.value_or(block.Typ);
@@ -104,7 +97,7 @@ std::vector<CorrelationRow> readCorrelations(std::string_view text, Checks check
     for (const CsvRow& cells : table->rows()) {
         RowReader row(*table, cells, checks, faults);
         const auto number = row.recordNumber(kNumber);
-        const auto property = readProperty(row);
+        const auto property = row.property(kProperty);
         const TKorelace block = readBlock(row);
         if (!number || !property) continue;
         const auto [earlier, isNew] = lineOfKey.emplace(std::pair(*number, *property), row.line());
