@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 
+#include "properties/estimates.h"
 #include "properties/stability.h"
 #include "rules/composition.h"
 #include "rules/dense_gas.h"
@@ -86,7 +87,20 @@ double PropertyPoint::reducedTemperature(double T) const {
     return checked::divide(T, volumeMeanTemperature(x(), of(Vc), of(Tc)));
 }
 
+bool PropertyPoint::restsOnEstimates(const MixtureProperty& property) const {
+    if (mixture_.estimated.empty()) return false;
+    return std::any_of(index_.begin(), index_.begin() + static_cast<std::ptrdiff_t>(count_),
+                       [&](std::size_t i) { return isAmong(property.correlations, mixture_.estimated[i]); });
+}
+
 PropertyValue PropertyPoint::value(const MixtureProperty& property, double T, double P, bool isVerdictRead) {
+    PropertyValue found = judgedValue(property, T, P, isVerdictRead);
+    if (isVerdictRead && found.standing == Standing::InRange && restsOnEstimates(property))
+        found.standing = Standing::Estimated;
+    return found;
+}
+
+PropertyValue PropertyPoint::judgedValue(const MixtureProperty& property, double T, double P, bool isVerdictRead) {
     if (count_ == 0) return {Standing::Failed, kNone};
     T_ = Temperature(T);
     P_ = P;

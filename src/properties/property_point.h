@@ -13,6 +13,7 @@
 #include "rules/pseudocritical.h"
 #include "rules/temperature.h"
 #include "velor/properties.h"
+#include "velor/supplement.h"
 #include "velor/verdict.h"
 
 namespace velor {
@@ -22,6 +23,7 @@ inline constexpr std::size_t kMostComponents = 20;
 struct PreparedComponents {
     ComponentSettings settings;
     std::vector<PreparedComponent> components;
+    std::vector<EstimatedProperties> estimated = {};  // of each component; none where nothing is told of them
     std::vector<PairFactor> pairs;  // of the gas's conductivity, by rows; none where a molar mass is missing
 };
 
@@ -94,6 +96,8 @@ class PropertyPoint {
     void gatherHeatOfVaporisation();
     double reducedTemperature(double T) const;
     bool isMetastableGas() const;
+    PropertyValue judgedValue(const MixtureProperty& property, double T, double P, bool isVerdictRead);
+    bool restsOnEstimates(const MixtureProperty& property) const;
 
     double densityOf(const Values& pureDensities);
     double perMass(double molar);

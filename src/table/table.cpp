@@ -7,10 +7,12 @@
 #include <thread>
 #include <vector>
 
+#include "properties/estimates.h"
 #include "properties/property_point.h"
 #include "records/record_file.h"
 #include "rules/composition.h"
 #include "runtime/checked.h"
+#include "velor/substances.h"
 
 namespace velor {
 
@@ -34,13 +36,22 @@ std::vector<PairFactor> pairFactors(const std::vector<PreparedComponent>& compon
     return pairs;
 }
 
-std::shared_ptr<const PreparedComponents> prepared(std::span<const TLatka> records, MixtureSettings settings) {
+std::shared_ptr<PreparedComponents> prepared(std::span<const TLatka> records, MixtureSettings settings) {
     if (records.empty() || records.size() > kMostComponents) refuse();
     auto mixture = std::make_shared<PreparedComponents>();
     mixture->settings = {settings.isSoave ? Attraction::Soave : Attraction::RedlichKwong, settings.isClamped};
     for (const TLatka& record : records) mixture->components.emplace_back(record, mixture->settings);
     mixture->pairs = pairFactors(mixture->components);
     return mixture;
+}
+
+// Kept only where there are any: the points then need not look.
+std::vector<EstimatedProperties> estimatesOf(std::span<const TLatka> records, const Supplement& supplement) {
+    std::vector<EstimatedProperties> estimated;
+    for (const TLatka& record : records)
+        estimated.push_back(supplement.estimates(substanceOf(record.Cislo, record).cas));
+    if (std::ranges::all_of(estimated, [](const auto& one) { return one.none(); })) estimated.clear();
+    return estimated;
 }
 
 std::vector<TLatka> recordsOf(const std::string& databasePath, std::span<const int> numbers) {
@@ -159,8 +170,12 @@ void divide(std::size_t points, int threads, const Work& work) {
 }  // namespace
 
 PreparedMixture::PreparedMixture(const std::string& databasePath, std::span<const int> numbers,
-                                 MixtureSettings settings)
-    : components_(prepared(recordsOf(databasePath, numbers), settings)) {}
+                                 MixtureSettings settings) {
+    const std::vector<TLatka> records = recordsOf(databasePath, numbers);
+    const auto mixture = prepared(records, settings);
+    mixture->estimated = estimatesOf(records, Supplement::of(databasePath));
+    components_ = mixture;
+}
 
 PreparedMixture::PreparedMixture(std::span<const TLatka> records, MixtureSettings settings)
     : components_(prepared(records, settings)) {}
@@ -200,9 +215,16 @@ void evaluate(const PreparedMixture& mixture, const PureProperty& property, int 
     const std::size_t points = numberOfPoints(values, verdicts);
     const Series temperatures(T, points);
     const Results results{values, verdicts};
+    const auto& estimated = mixture.components().estimated;
+    const bool isEstimate =
+        !estimated.empty() && isAmong({property.number}, estimated[static_cast<std::size_t>(component - 1)]);
+    const auto remarked = [isEstimate](PropertyValue found) {
+        if (isEstimate && found.standing == Standing::InRange) found.standing = Standing::Estimated;
+        return found;
+    };
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
         for (std::size_t point = from; point < to; ++point)
-            results.set(point, one.pure(property.number, temperatures[point]));
+            results.set(point, remarked(one.pure(property.number, temperatures[point])));
     });
 }
 

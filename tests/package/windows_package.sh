@@ -35,7 +35,7 @@ run reg add 'HKCU\Software\Wine\Drivers' /v Audio /d '' /f >/dev/null
 unzip -q "$package" -d "$work"
 mv "$work"/velor-*-windows "$folder"
 cp -r "$folder" "$work/unpacked"
-for part in x64/velor.dll x86/velor.dll x64/velor.tlb x86/velor.lib prirucka.html examples/smes.vbs; do
+for part in x64/velor.dll x86/velor.dll x64/VELOR.DOP x64/velor.tlb x86/velor.lib prirucka.html examples/smes.vbs; do
     test -s "$folder/$part"
 done
 
@@ -62,6 +62,23 @@ native=$("$command" --csv vlastnost TENS --latky voda -T 373.15 | sed -n '2s/^[^
 awk -v ours="${answer#tenze }" -v theirs="$native" 'BEGIN { exit !(theirs > 1e5 && (ours - theirs) ^ 2 < (1e-9 * theirs) ^ 2) }' ||
     fail "skript: $answer, velor: $native"
 test -s "$folder/x64/SEZNAM.DAT"
+
+# An own substance, from the template to a number and the deviation of its source.
+made=$(dirname "$command")
+"$made/velor-baze" sablona | sed 's/^Voda,[^,]*,/Moje,,/; s/7732-18-5/108-91-8/' >"$work/moje.csv"
+number=$("$made/velor-baze" pridej "$made/VELOR.DRC" "$work/moje.csv" -o "$work/MOJE.DRC" | awk '{ print $2; exit }')
+own=Z:${work//\//\\}
+cat >"$work/own.vbs" <<VBS
+Set smes = CreateObject("VELOR.Smes")
+smes.AdrVELOR = "$own\MOJE.DRC"
+smes.DefSlozky Array($number)
+WScript.Echo smes.FFce(350, 1, 9)
+If smes.Odchylka(1, 9) <> 0.3 Or Len(smes.Zdroj(1, 9)) = 0 Then WScript.Echo "doplnek"
+VBS
+answer=$(run cscript //nologo "$own\\own.vbs" | tr -d '\r')
+native=$("$command" --csv --baze "$work/MOJE.DRC" vlastnost TENS --latky Moje -T 350 | sed -n '2s/^[^,]*,\([^,]*\),.*/\1/p')
+awk -v ours="$answer" -v theirs="$native" 'BEGIN { exit !(theirs > 4e4 && (ours - theirs) ^ 2 < (1e-9 * theirs) ^ 2) }' ||
+    fail "vlastní látka: $answer, velor: $native"
 
 answer=$(script uninstall) || fail "$answer"
 says "64bitová verze už není zaregistrována" "Hotovo."

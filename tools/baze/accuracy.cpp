@@ -7,7 +7,7 @@
 
 #include "baze/csv_table.h"
 #include "baze/row_reader.h"
-#include "rules/equations.h"
+#include "rules/equations.h"  // points are compared with what the library evaluates
 #include "velor/properties.h"
 #include "velor/run_time_error.h"
 #include "velor/smes.h"

@@ -33,6 +33,7 @@ std::string inCzech(const CLI::ParseError& error, const CLI::App& app) {
     }
     if (dynamic_cast<const CLI::RequiredError*>(&error) != nullptr)
         return app.get_subcommands().empty() ? "chybí příkaz" : "chybí povinný argument";
+    if (dynamic_cast<const CLI::ConversionError*>(&error) != nullptr) return "hodnota volby není číslo";
     return "volba má mít právě jednu hodnotu";
 }
 
@@ -44,7 +45,8 @@ int run(int argc, char** argv) {
     app.option_defaults()->group("Volby");
     app.set_help_flag("-h,--help", "Vypíše tuto nápovědu");
     app.require_subcommand(1);
-    for (const auto add : {addCompile, addDecompile, addAccuracy}) add(app, action);
+    for (const auto add : {addCompile, addDecompile, addOwnSubstancesCommand, addTemplateCommand, addFit, addAccuracy})
+        add(app, action);
     try {
         app.parse(argc, argv);
         return action();

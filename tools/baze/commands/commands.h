@@ -23,6 +23,9 @@ using Action = std::function<int()>;
 void addCompile(CLI::App& app, Action& action);
 void addDecompile(CLI::App& app, Action& action);
 void addAccuracy(CLI::App& app, Action& action);
+void addOwnSubstancesCommand(CLI::App& app, Action& action);
+void addFit(CLI::App& app, Action& action);
+void addTemplateCommand(CLI::App& app, Action& action);
 
 // ---- What they share ---------------------------------------------------------------------------------------------
 

@@ -35,37 +35,59 @@ void writeConfiguration(const Task& task) {
     }
 }
 
+// What is not there is not told.
+SupplementTexts furtherTexts(const std::string& folder) {
+    const auto text = [&](std::string_view name) {
+        const std::string path = pathIn(folder, name);
+        return std::filesystem::exists(app::systemPath(path)) ? readFile(path) : std::string();
+    };
+    return {text(kNamesFile), text(kSharedNamesFile), text(kGroupsFile), text(kKnownGroupsFile)};
+}
+
 int compileFolder(const Task& task) {
     requireConfigurable(task);
     const std::string substances = pathIn(task.folder, kSubstancesFile);
     const std::string correlations = pathIn(task.folder, kCorrelationsFile);
     const Checks checks = task.formOnly ? Checks::FormOnly : Checks::Full;
     const std::string substanceText = readFile(substances);
-    const auto result = compile(substanceText, readFile(correlations), checks);
+    const auto result = compile(substanceText, readFile(correlations), checks, furtherTexts(task.folder));
     if (!result.succeeded()) {
         report(substances, result.substanceFaults);
         report(correlations, result.correlationFaults);
+        report(pathIn(task.folder, kNamesFile), result.supplementFaults.names);
+        report(pathIn(task.folder, kSharedNamesFile), result.supplementFaults.sharedNames);
+        report(pathIn(task.folder, kGroupsFile), result.supplementFaults.groups);
         if (result.hasMoreFaults) reportThatThereAreMore();
         return kFailed;
     }
     writeFile(task.database, result.bytes);
+    writeFile(Supplement::pathFor(task.database), result.supplement);
     if (!task.configuration.empty()) writeConfiguration(task);
     std::cout << task.database << ": látek " << result.substances << ", korelací " << result.correlations << '\n';
     return kDone;
 }
 
 int decompileDatabase(const Task& task) {
-    const auto text = decompile(readFile(task.database));
+    const Supplement supplement = Supplement::of(task.database);
+    const auto text = decompile(readFile(task.database), supplement);
     if (!text.refusal.empty()) throw Failure(task.database + ": " + text.refusal);
-    const std::string substances = pathIn(task.folder, kSubstancesFile);
-    const std::string correlations = pathIn(task.folder, kCorrelationsFile);
-    // Groups, sources and deviations are in no database; hand-kept tables would lose them.
-    for (const std::string& path : {substances, correlations})
-        if (std::filesystem::exists(app::systemPath(path)))
-            throw Failure(path + ": soubor už existuje a nebude přepsán");
-    std::filesystem::create_directories(app::systemPath(task.folder));
-    writeFile(substances, text.substances);
-    writeFile(correlations, text.correlations);
+    const std::pair<std::string_view, std::string> files[] = {{kSubstancesFile, text.substances},
+                                                              {kCorrelationsFile, text.correlations},
+                                                              {kNamesFile, text.further.names},
+                                                              {kSharedNamesFile, text.further.sharedNames},
+                                                              {kGroupsFile, text.further.groups}};
+    // Hand-kept tables hold more than a database, the groups of the list at least.
+    for (const auto& [name, content] : files)
+        if (std::filesystem::exists(app::systemPath(pathIn(task.folder, name))))
+            throw Failure(pathIn(task.folder, name) + ": soubor už existuje a nebude přepsán");
+    for (const auto& [name, content] : files) {
+        if (content.empty()) continue;
+        const std::string path = pathIn(task.folder, name);
+        std::filesystem::create_directories(app::systemPath(path).parent_path());
+        writeFile(path, content);
+    }
+    if (!supplement.note().empty())
+        std::cerr << supplement.note() << " Zdroje, odchylky a jména proto v textu nejsou.\n";
     return kDone;
 }
 
@@ -73,8 +95,11 @@ int decompileDatabase(const Task& task) {
 
 void addCompile(CLI::App& app, Action& action) {
     const auto task = std::make_shared<Task>();
-    CLI::App* command = addCommand(app, "sestav", "Sestaví z textových tabulek bázi VELOR.DRC");
-    addArgument(*command, "slozka", task->folder, "Složka se soubory latky.csv a korelace.csv");
+    CLI::App* command =
+        addCommand(app, "sestav", "Sestaví z textových tabulek bázi VELOR.DRC a její doplněk VELOR.DOP");
+    addArgument(*command, "slozka", task->folder,
+                "Složka se soubory latky.csv a korelace.csv, popřípadě jmena.csv,\nspolecna_jmena.csv a "
+                "unifac/substances_groups.csv");
     addArgument(*command, "baze", task->database, "Báze, která vznikne nebo bude nahrazena");
     command->add_flag("--bez-kontroly", task->formOnly,
                       "Nekontroluje obsah (CAS, rozmezí hodnot, typy rovnic ...), jen tvar;\n"
@@ -88,10 +113,11 @@ void addDecompile(CLI::App& app, Action& action) {
     const auto task = std::make_shared<Task>();
     CLI::App* command = addCommand(app, "rozloz", "Rozloží bázi VELOR.DRC zpět na textové tabulky, beze ztráty");
     addArgument(*command, "baze", task->database, "Báze k rozložení");
-    addArgument(*command, "slozka", task->folder, "Složka pro latky.csv a korelace.csv; co v ní je, nepřepíše");
+    addArgument(*command, "slozka", task->folder, "Složka pro tabulky; co v ní je, nepřepíše");
     command->footer(
         "Příkaz sestav z tabulek vytvoří tutéž bázi bajt po bajtu. Má-li báze obsah, který kontrolou neprojde,\n"
-        "použijte s ním --bez-kontroly. Skupiny, zdroje a odchylky v bázi nejsou, jejich sloupce zůstanou prázdné.");
+        "použijte s ním --bez-kontroly. Zdroje, odchylky a další jména jsou v doplňku (.DOP) vedle báze;\n"
+        "bez něj, a skupiny seznamu vždy, zůstanou prázdné.");
     command->callback([task, &action] { action = [task] { return decompileDatabase(*task); }; });
 }
 
