@@ -27,7 +27,7 @@ enum class Standing {
     BeyondReference,  // the equation has no value beyond its reference temperature
     Diverged,         // the iteration was given up
     Failed,
-    Estimated,  // as InRange, but a correlation is an estimate: of its substance nothing was measured
+    Estimated,  // as InRange, but a correlation is an estimate
 };
 inline constexpr std::size_t kStandings = 12;
 
