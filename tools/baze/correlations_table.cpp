@@ -177,6 +177,17 @@ std::string ownCorrelationsHeader() {
     return text;
 }
 
+std::string ownCorrelationRow(const std::string& cas, int property, const TKorelace& block,
+                              const Provenance& provenance) {
+    std::vector<std::string> cells = correlationCells(0, property, block, provenance);
+    cells.front() = cas;
+    constexpr std::ptrdiff_t kFlag = 11;  // Priznak, which a row that is given does not need
+    cells.erase(cells.begin() + kFlag);
+    std::string text;
+    appendCsvRow(text, cells);
+    return text;
+}
+
 std::vector<std::string> correlationCells(int number, int property, const TKorelace& block,
                                           const Provenance& provenance) {
     std::vector<std::string> cells{std::to_string(number), Smes::ChybRozv(property), std::to_string(block.Typ)};

@@ -32,6 +32,8 @@ struct OwnCorrelation {
 };
 std::vector<OwnCorrelation> readOwnCorrelations(std::string_view text, int firstLine, LineFaults& faults);
 std::string ownCorrelationsHeader();
+std::string ownCorrelationRow(const std::string& cas, int property, const TKorelace& block,
+                              const Provenance& provenance);
 
 std::vector<std::string> correlationCells(int number, int property, const TKorelace& block,
                                           const Provenance& provenance);

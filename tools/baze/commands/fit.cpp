@@ -8,7 +8,6 @@
 #include <optional>
 
 #include "baze/correlations_table.h"
-#include "baze/csv.h"
 #include "commands/commands.h"
 #include "rules/equations.h"  // which types there are, and their curves
 #include "runtime/numbers.h"  // numbers by a pattern, whatever the locale
@@ -101,16 +100,6 @@ void printPoints(const Fit& fit, const std::vector<MeasuredPoint>& points) {
                   << padded(percent(fit.deviations[i]), 14) << roundedText(points[i].weight * fit.weights[i]) << '\n';
 }
 
-std::string rowOf(const Fit& fit, const PureProperty& property, const Task& task) {
-    std::vector<std::string> cells =
-        correlationCells(0, property.number, fit.block, {task.source, std::round(fit.most * 1e4) / 1e4, false});
-    cells.front() = task.cas;
-    cells.erase(cells.begin() + 11);  // Priznak: a block that is given
-    std::string text;
-    appendCsvRow(text, cells);
-    return text;
-}
-
 // ---- The picture -------------------------------------------------------------------------------------------------
 
 std::string numbers(const std::vector<std::pair<double, double>>& points) {
@@ -200,7 +189,10 @@ int fitPoints(const Task& task) {
     std::cout << "Směrodatná odchylka " << percent(fit.rms) << " %, největší " << percent(fit.most) << " %, AICc "
               << percent(fit.aicc) << '\n';
     if (!fit.doubt.empty()) std::cout << "POZOR: mimo body rovnice " << fit.doubt << ".\n";
-    std::cout << '\n' << ownCorrelationsHeader() << rowOf(fit, property, task);
+    std::cout << '\n'
+              << ownCorrelationsHeader()
+              << ownCorrelationRow(task.cas, property.number, fit.block,
+                                   {task.source, std::round(fit.most * 1e4) / 1e4, false});
     if (!task.picture.empty()) draw(fit, points, property, task.picture);
     return kDone;
 }
