@@ -64,17 +64,6 @@ TEST(Constants, molarMassIsThatOfTheFormula) {
 
 using Exceptions = std::map<int, double>;  // values by the substances' numbers
 
-TEST(Constants, criticalCompressibilityIsThatOfAFluid) {
-    const Exceptions exceptions{{28, 0.117},    // hydrogen fluoride: chains in the vapour
-                                {62, 0.179},    // hexacosane: estimated, decomposes before it is critical
-                                {320, 0.138}};  // formic acid: dimers in the vapour
-    for (const auto& [number, record] : test::realRecords()) {
-        const double factor = double{record.Pkr} * record.Vkr / (kGasConstant * record.Tkr);
-        const bool known = exceptions.contains(number);
-        EXPECT_NEAR(factor, known ? exceptions.at(number) : 0.255, known ? 1e-3 : 0.075) << test::label(record);
-    }
-}
-
 TEST(Constants, vapourPressureIsAnAtmosphereAtTheBoilingPoint) {
     const Exceptions tolerances{
         {115, 0.034}};  // 3,3,5-trimethylheptane: constant and correlation have different sources

@@ -136,7 +136,7 @@ class Estimating {
         liquidViscosity(hot);
         keep(
             kALAL, {}, 2, cold_, 0.9 * Tc_, [&](double T) { return satoRiedelConductivity(T, M_, Tb_, Tc_); },
-            "Sato a Riedel");
+            "Sato a Riedel (1951)");
         keep(
             kCPL, {}, 3, cold_, 0.85 * Tc_,
             [&](double T) { return rowlinsonBondiCapacity(T, gasCapacity(T), Tc_, omega_); },

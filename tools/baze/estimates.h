@@ -59,7 +59,7 @@ double letsouStielViscosity(double T, double Mv, double Tkr, double Pkr, double 
 double lucasViscosity(double T, double Mv, double Tkr, double Pkr);
 // Heat capacity of the liquid by Rowlinson (1969) and Bondi (1968), from that of the ideal gas, J/(mol K).
 double rowlinsonBondiCapacity(double T, double gas, double Tkr, double acentric);
-// Conductivity of the liquid by Sato and Riedel, W/(m K).
+// Conductivity of the liquid by Sato and Riedel (1951), W/(m K).
 double satoRiedelConductivity(double T, double Mv, double Tnbv, double Tkr);
 
 }  // namespace velor::baze

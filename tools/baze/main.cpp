@@ -45,8 +45,8 @@ int run(int argc, char** argv) {
     app.option_defaults()->group("Volby");
     app.set_help_flag("-h,--help", "Vypíše tuto nápovědu");
     app.require_subcommand(1);
-    for (const auto add :
-         {addCompile, addDecompile, addOwnSubstancesCommand, addTemplateCommand, addFit, addEstimate, addAccuracy})
+    for (const auto add : {addCompile, addDecompile, addOwnSubstancesCommand, addTemplateCommand, addFit, addEstimate,
+                           addAccuracy, addConsistency})
         add(app, action);
     try {
         app.parse(argc, argv);

@@ -24,6 +24,7 @@ void addCompile(CLI::App& app, Action& action);
 void addDecompile(CLI::App& app, Action& action);
 void addAccuracy(CLI::App& app, Action& action);
 void addOwnSubstancesCommand(CLI::App& app, Action& action);
+void addConsistency(CLI::App& app, Action& action);
 void addEstimate(CLI::App& app, Action& action);
 void addFit(CLI::App& app, Action& action);
 void addTemplateCommand(CLI::App& app, Action& action);
