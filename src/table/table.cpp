@@ -2,23 +2,17 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <limits>
-#include <thread>
 #include <vector>
 
-#include "properties/property_point.h"
 #include "records/record_file.h"
-#include "rules/composition.h"
-#include "runtime/checked.h"
+#include "table/points.h"
 
 namespace velor {
 
 namespace {
 
 constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-
-[[noreturn]] void refuse() { checked::raise(RunTimeError::kSubscript); }
 
 // ---- Preparing -------------------------------------------------------------------------------------------------
 
@@ -57,80 +51,10 @@ std::vector<TLatka> recordsOf(const std::string& databasePath, std::span<const i
 
 // ---- Points ----------------------------------------------------------------------------------------------------
 
-// One number for all points or one each.
-class Series {
-  public:
-    Series(std::span<const double> values, std::size_t points) : values_(values), step_(values.size() == 1 ? 0 : 1) {
-        if (values.size() != 1 && values.size() != points) refuse();
-    }
-    double operator[](std::size_t point) const { return values_[point * step_]; }
-
-  private:
-    std::span<const double> values_;
-    std::size_t step_;
-};
-
 std::size_t numberOfPoints(std::span<double> values, std::span<Standing> verdicts) {
     if (!values.empty() && !verdicts.empty() && values.size() != verdicts.size()) refuse();
     return std::max(values.size(), verdicts.size());
 }
-
-// Where the last of so many lies, told without multiplying what a caller made up.
-std::size_t lastOffset(std::size_t count, std::ptrdiff_t stride, std::size_t most) {
-    if (count <= 1 || stride == 0) return 0;
-    if (stride < 0 || static_cast<std::size_t>(stride) > most / (count - 1)) refuse();
-    return (count - 1) * static_cast<std::size_t>(stride);
-}
-
-void requireInside(const Compositions& X, std::size_t components, std::size_t points) {
-    if (X.values.empty()) refuse();
-    const std::size_t most = X.values.size() - 1;
-    if (lastOffset(components, X.componentStride, most) + lastOffset(points, X.pointStride, most) > most) refuse();
-}
-
-// The mole fractions of a point; false where they are none.
-class FractionReader {
-  public:
-    FractionReader(const PreparedComponents& mixture, const Compositions& X)
-        : X_(X), count_(mixture.components.size()) {
-        for (std::size_t i = 0; i < count_; ++i) molarMasses_[i] = mixture.components[i].record().Mv;
-    }
-
-    bool read(std::size_t point, std::array<double, kMostComponents>& x) const {
-        double sum = 0;
-        for (std::size_t i = 0; i < count_; ++i) {
-            x[i] = X_.values[static_cast<std::size_t>(static_cast<std::ptrdiff_t>(i) * X_.componentStride +
-                                                      static_cast<std::ptrdiff_t>(point) * X_.pointStride)];
-            if (!(x[i] >= 0)) return false;
-            sum += x[i];
-        }
-        const auto fractions = std::span(x).first(count_);
-        if (X_.isNormalised && sum > 0 && std::isfinite(sum))
-            for (double& fraction : fractions) fraction /= sum;
-        else if (!(std::abs(1.0 - sum) <= kFractionTolerance))
-            return false;
-        return X_.kind == FractionKind::Mole || toMoles(fractions);
-    }
-
-  private:
-    bool toMoles(std::span<double> fractions) const {
-        const std::array<double, kMostComponents> masses = [&] {
-            std::array<double, kMostComponents> copy{};
-            std::ranges::copy(fractions, copy.begin());
-            return copy;
-        }();
-        try {
-            moleFractions(std::span(masses).first(count_), std::span(molarMasses_).first(count_), fractions);
-            return true;
-        } catch (const RunTimeError&) {
-            return false;
-        }
-    }
-
-    const Compositions& X_;
-    std::size_t count_;
-    std::array<double, kMostComponents> molarMasses_{};
-};
 
 struct Results {
     std::span<double> values;
@@ -141,20 +65,6 @@ struct Results {
         if (!verdicts.empty()) verdicts[point] = found.standing;
     }
 };
-
-// Divides the points evenly among the threads; each takes a run of neighbours.
-template <class Work>
-void divide(std::size_t points, int threads, const Work& work) {
-    if (points == 0) return;
-    constexpr std::size_t kMostThreads = 256;
-    const std::size_t wanted = std::min(static_cast<std::size_t>(std::max(threads, 1)), kMostThreads);
-    const std::size_t parts = std::min(wanted, points);
-    std::vector<std::jthread> others;
-    for (std::size_t part = 1; part < parts; ++part)
-        others.emplace_back(
-            [&work, from = points * part / parts, to = points * (part + 1) / parts] { work(from, to); });
-    work(0, points / parts);
-}
 
 }  // namespace
 
