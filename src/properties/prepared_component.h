@@ -35,6 +35,9 @@ class PreparedComponent {
     // Property k (1..10) at T with its verdict; see pureValue of verdict.h.
     PropertyValue pure(int k, const Temperature& T) const;
 
+    // The number that the object goes on with: 1E-8 where there is no value, a negative one as it is.
+    double valueAsBuilt(int k, const Temperature& T) const;
+
     // What the real gas needs; none where it cannot be prepared.
     const std::optional<CubicComponent>& cubic() const { return cubic_; }
     const std::optional<GasReference>& gasReference() const { return gasReference_; }
@@ -43,7 +46,6 @@ class PreparedComponent {
     static constexpr int kProperties = 10;
 
     const PreparedCorrelation& correlation(int k) const { return correlations_[static_cast<std::size_t>(k - 1)]; }
-    double heatOfVaporisation(double T) const;  // 1E-8 after an error, as FFce has it
     void prepareGas(Attraction attraction);
 
     TLatka record_;

@@ -86,10 +86,15 @@ double PropertyPoint::reducedTemperature(double T) const {
     return checked::divide(T, volumeMeanTemperature(x(), of(Vc), of(Tc)));
 }
 
-PropertyValue PropertyPoint::value(const MixtureProperty& property, double T, double P, bool isVerdictRead) {
-    if (count_ == 0) return {Standing::Failed, kNone};
+PropertyPoint& PropertyPoint::at(double T, double P) {
     T_ = Temperature(T);
     P_ = P;
+    return *this;
+}
+
+PropertyValue PropertyPoint::value(const MixtureProperty& property, double T, double P, bool isVerdictRead) {
+    if (count_ == 0) return {Standing::Failed, kNone};
+    at(T, P);
     worst_ = Standing::InRange;
     try {
         if (property.outcome)

@@ -34,6 +34,9 @@ class PropertyPoint {
     // would condense takes as long as the value of many a property: it is looked at where somebody reads the verdict.
     PropertyValue value(const MixtureProperty& property, double T, double P, bool isVerdictRead = true);
 
+    // The state of the properties below that are mixed of records alone: HL, SL and the real gas without Cp and Cv.
+    PropertyPoint& at(double T, double P);
+
     // ---- The properties, by the names of the object's methods; errors as there ----------------------------------
     double VSM();
     double ROLW();
