@@ -16,20 +16,20 @@ namespace velor {
 
 // Of each member one element a point, by the names of FlashRecord; any may be left empty. NaN stands for none.
 struct FlashResults {
-    std::span<FlashOutcome> outcomes;     // None: no flash, and the verdict says why
-    std::span<Standing> verdicts;         // the worst of the vapour pressures and enthalpies; Diverged: not converged
-    std::span<int> passes;                // 0 where nothing was iterated
-    std::span<double> vapourFractions;    // moles of vapour per mole of feed
-    std::span<double> temperatures;       // K
-    std::span<double> bubblePoints;       // K
-    std::span<double> dewPoints;          // K
-    std::span<double> materialResiduals;  // sum(x (1 - K)) as the last pass found it, converged or not
-    std::span<double> energyResiduals;    // J/mol, likewise; of an adiabatic flash
+    std::span<FlashOutcome> outcomes = {};  // None: no flash, and the verdict says why
+    std::span<Standing> verdicts = {};      // the worst of the vapour pressures and enthalpies; Diverged: not converged
+    std::span<int> passes = {};             // 0 where nothing was iterated
+    std::span<double> vapourFractions = {};    // moles of vapour per mole of feed
+    std::span<double> temperatures = {};       // K
+    std::span<double> bubblePoints = {};       // K
+    std::span<double> dewPoints = {};          // K
+    std::span<double> materialResiduals = {};  // sum(x (1 - K)) as the last pass found it, converged or not
+    std::span<double> energyResiduals = {};    // J/mol, likewise; of an adiabatic flash
     // Of component i (from 0) at point p the element i * componentStride + p * pointStride of each. A phase that is not
     // there has fractions of 0; of the feed alone there are no K-values.
-    std::span<double> liquids;       // mole fractions
-    std::span<double> vapours;       // mole fractions
-    std::span<double> equilibriums;  // K = y / x
+    std::span<double> liquids = {};       // mole fractions
+    std::span<double> vapours = {};       // mole fractions
+    std::span<double> equilibriums = {};  // K = y / x
     std::ptrdiff_t componentStride = 1;
     std::ptrdiff_t pointStride = 0;  // 0: one point right behind the other
 };
