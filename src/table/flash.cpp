@@ -30,6 +30,14 @@ class Results {
             if (!phase.empty()) requireApart(phase.size(), points);
     }
 
+    bool isAnyWanted() const {
+        const FlashResults& all = arrays_;
+        return !(all.outcomes.empty() && all.verdicts.empty() && all.passes.empty() && all.vapourFractions.empty() &&
+                 all.temperatures.empty() && all.bubblePoints.empty() && all.dewPoints.empty() &&
+                 all.materialResiduals.empty() && all.energyResiduals.empty() && all.liquids.empty() &&
+                 all.vapours.empty() && all.equilibriums.empty());
+    }
+
     void set(std::size_t point, const FlashRecord& record, Standing verdict) const {
         const auto inResult = [&](double value) { return hasResult(record) ? value : kNone; };
         const bool isIterated = record.passes > 0, isAdiabatic = record.kind == FlashKind::Adiabatic;
@@ -92,7 +100,7 @@ void flash(const PreparedMixture& mixture, FlashKind kind, std::span<const doubl
     const std::size_t n = components.components.size();
     const Results results(arrays, n, points);
     const Series temperatures(T, points), pressures(P, points);
-    if (points == 0) return;
+    if (points == 0 || !results.isAnyWanted()) return;
     requireInside(feeds, n, points);
     const FractionReader reader(components, feeds);
     // One for each part of the points, made before the threads: a thread has nobody to tell of missing memory.

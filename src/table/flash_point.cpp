@@ -45,6 +45,8 @@ Standing FlashPoint::run(double T, double P, std::span<const double> feed) {
             found_.outcome = FlashOutcome::None;
         return verdict;
     } catch (const RunTimeError&) {
+        found_.outcome = FlashOutcome::None;
+        found_.passes = 0;
         // The likeliest reason: an enthalpy that the feed has none of.
         const Standing reason = isAdiabatic() ? standing(rows_.vapourEnthalpy, found_.feed, T) : Standing::Failed;
         return PropertyValue{reason}.isComputed() ? Standing::Failed : reason;
