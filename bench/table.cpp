@@ -1,6 +1,5 @@
-// Many points at once, per thousand points: beside the scalar floors, and bubble and dew points beside the object.
-#include "velor/table.h"
-
+// Many points at once, per thousand points: beside the scalar floors, and bubble and dew points and flashes beside the
+// object.
 #include <array>
 #include <functional>
 #include <numeric>
@@ -10,6 +9,7 @@
 #include "gas_floor.h"
 #include "mixture.h"
 #include "properties/pure_value.h"
+#include "velor/flash_table.h"
 
 namespace velor::bench {
 
@@ -43,6 +43,41 @@ struct Table {
     }
 };
 
+// Halfway between bubble and dew point, of an adiabatic flash a feed that much warmer.
+struct Flashes {
+    FlashKind kind;
+    Points T, P;
+
+    Flashes(FlashKind kind, const Table& table) : kind(kind), T(kPoints), P(evenly(0.5e5, 2e5, kPoints)) {
+        Points dew(kPoints);
+        evaluate(table.prepared, *findMixtureProperty("TBV"), {}, P, {table.mixture->fractions}, T, {});
+        evaluate(table.prepared, *findMixtureProperty("TRB"), {}, P, {table.mixture->fractions}, dew, {});
+        for (std::size_t i = 0; i < kPoints; ++i)
+            T[i] = 0.5 * (T[i] + dew[i]) + (kind == FlashKind::Adiabatic ? 30.0 : 0.0);
+    }
+};
+
+void compareFlashes(const std::string& name, const Table& table, const Flashes& flashes) {
+    compare(
+        name, Goal::ratio(0.34), std::vector{flashes},
+        [=](const Flashes& at) {
+            flash(table.prepared, at.kind, at.T, at.P, {table.mixture->fractions}, kPoints,
+                  {.vapourFractions = *table.values});
+            return sumOfAll(*table.values);
+        },
+        [=](const Flashes& at) {
+            double sum = 0;
+            for (std::size_t i = 0; i < kPoints; ++i) {
+                Variant T = at.T[i], P = at.P[i];
+                benchmark::DoNotOptimize(
+                    table.mixture->smes.FLASH(at.kind == FlashKind::Adiabatic ? 1 : 0, T, P, table.mixture->X));
+                sum += table.mixture->smes.lastFlash().vapourFraction;
+            }
+            return sum;
+        },
+        1e-3);
+}
+
 }  // namespace
 
 void addTable() {
@@ -73,6 +108,8 @@ void addTable() {
             }),
             1e-4);
     }
+    compareFlashes("table FLASH 5 beside the object", five, {FlashKind::Isothermal, five});
+    compareFlashes("table FLASH 5 adiabatic beside the object", five, {FlashKind::Adiabatic, five});
 }
 
 }  // namespace velor::bench
