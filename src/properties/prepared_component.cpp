@@ -49,7 +49,7 @@ PropertyValue PreparedComponent::pure(int k, const Temperature& T) const {
     if (!prepared.isGiven()) return {Standing::NotGiven};
     if (!prepared.hasEquation()) return {Standing::Failed};
     try {
-        return judged(prepared.value(T, isClamped_), record_, isClamped_, T, k);
+        return judged(prepared.value(T, isClamped_), prepared.standing(T, isClamped_));
     } catch (const RunTimeError&) {
         return {Standing::Failed};
     }

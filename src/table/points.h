@@ -23,6 +23,8 @@ class Series {
         if (values.size() != 1 && values.size() != points) refuse();
     }
     double operator[](std::size_t point) const { return values_[point * step_]; }
+    const double* from(std::size_t point) const { return &values_[point * step_]; }
+    std::size_t step() const { return step_; }
 
   private:
     std::span<const double> values_;

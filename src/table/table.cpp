@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 #include <vector>
 
+#include "properties/property_point.h"
 #include "records/record_file.h"
+#include "table/lanes.h"
 #include "table/points.h"
 
 namespace velor {
@@ -66,6 +69,25 @@ struct Results {
     }
 };
 
+// Computes neighbouring points: side by side by lanes(functions, run), and those without a value there by alone(point).
+template <class InLanes, class Alone>
+void compute(const Series& T, const Series& P, const Results& results, std::size_t from, std::size_t to,
+             const InLanes& lanes, const Alone& alone) {
+    constexpr std::size_t kFewest = 4;  // that are worth a register
+    constexpr std::size_t kMost = 512;  // what stays near the processor
+    const LaneFunctions* functions = to - from < kFewest ? nullptr : laneFunctions();
+    std::array<double, kMost> room;
+    for (std::size_t first = from; first < to; first += kMost) {
+        const std::size_t points = std::min(kMost, to - first);
+        double* const values = results.values.empty() ? room.data() : &results.values[first];
+        Standing* const standings = results.verdicts.empty() ? nullptr : &results.verdicts[first];
+        if (functions)
+            lanes(*functions, Run{T.from(first), P.from(first), T.step(), P.step(), points, values, standings});
+        for (std::size_t k = 0; k < points; ++k)
+            if (!functions || std::isnan(values[k])) results.set(first + k, alone(first + k));
+    }
+}
+
 }  // namespace
 
 PreparedMixture::PreparedMixture(const std::string& databasePath, std::span<const int> numbers,
@@ -89,16 +111,25 @@ void evaluate(const PreparedMixture& mixture, const MixtureProperty& property, s
     requireInside(X, components.components.size(), points);
     const FractionReader reader(components, X);
     const Results results{values, verdicts};
+    const std::size_t evaluation = evaluationIndex(property);
+    const auto valueOf = [&](std::size_t point, std::span<const double> fractions) {
+        PropertyPoint state(components, fractions);
+        return valueAt(state, property, evaluation, temperatures[point], pressures[point], !verdicts.empty());
+    };
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
         std::array<double, kMostComponents> x;
-        for (std::size_t point = from; point < to; ++point) {
-            if (!reader.read(point, x)) {
-                results.set(point, {Standing::Failed});
-                continue;
-            }
-            PropertyPoint state(components, std::span(x).first(components.components.size()));
-            results.set(point, state.value(property, temperatures[point], pressures[point], !verdicts.empty()));
+        const auto fractions = std::span<const double>(x).first(components.components.size());
+        if (X.pointStride == 0 && reader.read(0, x)) {
+            compute(
+                temperatures, pressures, results, from, to,
+                [&](const LaneFunctions& lanes, const Run& run) {
+                    lanes.mixture(components, fractions, property, evaluation, run);
+                },
+                [&](std::size_t point) { return valueOf(point, fractions); });
+            return;
         }
+        for (std::size_t point = from; point < to; ++point)
+            results.set(point, reader.read(point, x) ? valueOf(point, fractions) : PropertyValue{Standing::Failed});
     });
 }
 
@@ -111,8 +142,10 @@ void evaluate(const PreparedMixture& mixture, const PureProperty& property, int 
     const Series temperatures(T, points);
     const Results results{values, verdicts};
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
-        for (std::size_t point = from; point < to; ++point)
-            results.set(point, one.pure(property.number, temperatures[point]));
+        compute(
+            temperatures, temperatures, results, from, to,
+            [&](const LaneFunctions& lanes, const Run& run) { lanes.pure(one, property.number, run); },
+            [&](std::size_t point) { return one.pure(property.number, temperatures[point]); });
     });
 }
 
