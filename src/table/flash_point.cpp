@@ -31,8 +31,9 @@ FlashPoint::FlashPoint(const PreparedComponents& mixture, FlashKind kind) : mixt
     found_.kind = kind;
 }
 
-Standing FlashPoint::standing(const MixtureProperty& row, std::span<const double> fractions, double T) const {
-    return of(fractions).value(row, T, P_, false).standing;
+PropertyValue FlashPoint::valueOf(const Row& row, std::span<const double> fractions, double T) const {
+    PropertyPoint point = of(fractions);
+    return valueAt(point, row.property, row.evaluation, T, P_, false);
 }
 
 Standing FlashPoint::run(double T, double P, std::span<const double> feed) {
@@ -48,7 +49,8 @@ Standing FlashPoint::run(double T, double P, std::span<const double> feed) {
         found_.outcome = FlashOutcome::None;
         found_.passes = 0;
         // The likeliest reason: an enthalpy that the feed has none of.
-        const Standing reason = isAdiabatic() ? standing(rows_.vapourEnthalpy, found_.feed, T) : Standing::Failed;
+        const Standing reason =
+            isAdiabatic() ? valueOf(rows_.vapourEnthalpy, found_.feed, T).standing : Standing::Failed;
         return PropertyValue{reason}.isComputed() ? Standing::Failed : reason;
     }
 }
@@ -66,8 +68,8 @@ void FlashPoint::begin(double T, double P, std::span<const double> feed) {
 }
 
 Standing FlashPoint::compute() {
-    const PropertyValue bubble = of(found_.feed).value(rows_.bubblePoint, T0_, P_);
-    const PropertyValue dew = of(found_.feed).value(rows_.dewPoint, T0_, P_);
+    const PropertyValue bubble = valueOf(rows_.bubblePoint, found_.feed, T0_);
+    const PropertyValue dew = valueOf(rows_.dewPoint, found_.feed, T0_);
     found_.bubblePoint = orNone(bubble);
     found_.dewPoint = orNone(dew);
     found_.bubbleOutcome = outcomeOf(bubble);
@@ -90,7 +92,7 @@ bool FlashPoint::isAllVapour(const PropertyValue& dew) const {
 }
 
 Standing FlashPoint::vapourVerdict(const PropertyValue& dew) const {
-    return tells(dew) ? dew.standing : standing(rows_.vapourPressure, found_.feed, T0_);
+    return tells(dew) ? dew.standing : valueOf(rows_.vapourPressure, found_.feed, T0_).standing;
 }
 
 Standing FlashPoint::finishTrivially(FlashOutcome outcome, double V, Standing verdict) {
@@ -115,11 +117,11 @@ Standing FlashPoint::iterate(double start) {
     std::ranges::copy(solution_.y, found_.vapour.begin());
     dropUnknownEquilibriums();
     if (!solution_.converged) return Standing::Diverged;
-    const Standing ofPressures = standing(rows_.vapourPressure, found_.feed, found_.temperature);
+    const Standing ofPressures = valueOf(rows_.vapourPressure, found_.feed, found_.temperature).standing;
     if (!isAdiabatic()) return ofPressures;
-    return std::max({ofPressures, standing(rows_.liquidEnthalpy, found_.feed, T0_),
-                     standing(rows_.liquidEnthalpy, found_.liquid, found_.temperature),
-                     standing(rows_.vapourEnthalpy, found_.vapour, found_.temperature)});
+    return std::max({ofPressures, valueOf(rows_.liquidEnthalpy, found_.feed, T0_).standing,
+                     valueOf(rows_.liquidEnthalpy, found_.liquid, found_.temperature).standing,
+                     valueOf(rows_.vapourEnthalpy, found_.vapour, found_.temperature).standing});
 }
 
 void FlashPoint::solve(double start) {

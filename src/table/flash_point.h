@@ -1,7 +1,9 @@
 // One flash of a prepared mixture over plain numbers: what the table computes where the object has its method.
 #pragma once
 
+#include <cstddef>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "properties/property_point.h"
@@ -22,17 +24,20 @@ class FlashPoint {
     const FlashRecord& found() const { return found_; }
 
   private:
+    struct Row {
+        const MixtureProperty& property;
+        std::size_t evaluation;
+
+        explicit Row(std::string_view code)
+            : property(*findMixtureProperty(code)), evaluation(evaluationIndex(property)) {}
+    };
     struct Rows {
-        const MixtureProperty& bubblePoint = *findMixtureProperty("TBV");
-        const MixtureProperty& dewPoint = *findMixtureProperty("TRB");
-        const MixtureProperty& vapourPressure = *findMixtureProperty("TENS");
-        const MixtureProperty& liquidEnthalpy = *findMixtureProperty("HL");
-        const MixtureProperty& vapourEnthalpy = *findMixtureProperty("RHG");
+        Row bubblePoint{"TBV"}, dewPoint{"TRB"}, vapourPressure{"TENS"}, liquidEnthalpy{"HL"}, vapourEnthalpy{"RHG"};
     };
 
     bool isAdiabatic() const { return found_.kind == FlashKind::Adiabatic; }
     PropertyPoint of(std::span<const double> fractions) const { return {mixture_, fractions}; }
-    Standing standing(const MixtureProperty& row, std::span<const double> fractions, double T) const;
+    PropertyValue valueOf(const Row& row, std::span<const double> fractions, double T) const;
 
     void begin(double T, double P, std::span<const double> feed);
     Standing compute();
