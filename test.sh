@@ -112,5 +112,6 @@ test_tsan() {
     (cd "$root" && LC_ALL=C "${fixed_addresses[@]}" ctest --preset tsan)
 }
 
-install_packages "${needed_to_build[@]}" pkg-config tmux bash-completion groff-base man-db lintian
+install_packages "${needed_to_build[@]}" pkg-config tmux bash-completion groff-base man-db lintian \
+    abigail-tools
 for part in "${parts[@]}"; do "test_$part"; done

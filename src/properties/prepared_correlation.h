@@ -1,13 +1,16 @@
 // The correlations of the components, each prepared for many temperatures.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
 
 #include "object/state.h"
+#include "properties/pure_value.h"
 #include "rules/equations.h"
+#include "velor/verdict.h"
 
 namespace velor {
 
@@ -31,7 +34,41 @@ class PreparedCorrelation {
         return Tx == T && !isWaterDensity_ ? equation_(T) : valueAt(Tx);
     }
 
+    // Of several points; those without a value are not finite. isInRange: that is known of all.
+    template <class Number>
+    Number value(const BasicTemperature<Number>& T, bool isClamped, bool isInRange) const {
+        return isInRange || !isMoved(T.kelvin(), isClamped)
+                   ? valuesAt(T)
+                   : valuesAt<Number>(workingTemperatures(T.kelvin(), isClamped));
+    }
+
+    // See standingAt.
+    Standing standing(double T, bool isClamped) const { return standingAt(T, Tmin_, Tmax_, isClamped, T > highest_); }
+    // Where it is InRange.
+    template <class Number>
+    auto isInRange(const Number& T) const {
+        return (T >= Tmin_) & (T <= std::min(Tmax_, highest_));
+    }
+
   private:
+    template <class Number>
+    bool isMoved(const Number& T, bool isClamped) const {
+        return isAny(T > highest_) || (isClamped && isAny((T < Tmin_) | (T > Tmax_)));
+    }
+
+    template <class Number>
+    Number workingTemperatures(const Number& T, bool isClamped) const {
+        double each[Number::kCount];
+        T.store(each);
+        for (double& one : each) one = workingTemperature(one, isClamped);
+        return Number::load(each);
+    }
+
+    template <class Number>
+    Number valuesAt(const BasicTemperature<Number>& T) const {
+        return isWaterDensity_ ? waterDensity(T.kelvin()) : equation_(T);
+    }
+
     double workingTemperature(double T, bool isClamped) const {
         double Tx = T;
         // Above the critical point the liquid's correlations are evaluated just below it, on purpose.

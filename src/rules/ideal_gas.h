@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 #include "rules/equations.h"
 
@@ -29,10 +30,37 @@ class HeatCapacityIntegral {
 
     double enthalpy(double T) const;             // of Cp dT, J/mol
     double entropy(double T, double lnT) const;  // of Cp/T dT, J/(mol K); lnT is the logarithm of T
+    // The same of several points; NaN where a polynomial alone does not tell it.
+    template <class Number>
+    Number enthalpies(const Number& T) const {
+        return exact(T, polynomialEnthalpy(T) - enthalpyAt0_);
+    }
+    template <class Number>
+    Number entropies(const Number& T, const Number& lnT) const {
+        return exact(T, polynomialEntropy(T, lnT) - entropyAt0_);
+    }
 
   private:
-    double polynomialEnthalpy(double T) const;
-    double polynomialEntropy(double T, double lnT) const;
+    template <class Number>
+    Number polynomialEnthalpy(const Number& T) const {
+        Number sum = byEnthalpy_[5];
+        for (std::size_t j = 5; j-- > 0;) sum = sum * T + byEnthalpy_[j];
+        return sum * T;
+    }
+    template <class Number>
+    Number polynomialEntropy(const Number& T, const Number& lnT) const {
+        Number sum = byEntropy_[5];
+        for (std::size_t j = 5; j-- > 1;) sum = sum * T + byEntropy_[j];
+        return sum * T + byEntropy_[0] * lnT;
+    }
+    // Where the polynomial is the whole of it, else NaN.
+    template <class Number>
+    Number exact(const Number& T, const Number& integral) const {
+        using namespace numbers;
+        if (!polynomial_) return kNan;
+        const auto isHeld = (T < heatCapacity_.Tmin) | (T > heatCapacity_.Tmax);
+        return heatCapacity_.clamped ? select(isHeld, kNan, integral) : integral;
+    }
 
     HeatCapacity heatCapacity_;
     bool polynomial_ = false;

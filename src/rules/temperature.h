@@ -5,26 +5,37 @@
 
 namespace velor {
 
-// Its logarithm is computed when it is first asked for and then shared: most equations need it, and for a mixture they
-// need it once a component.
-class Temperature {
+// Its logarithm and reciprocal are computed when they are first asked for and then shared: most equations need one of
+// them, and for a mixture they need it once a component. Number is a double or the Lanes of several points.
+template <class Number>
+class BasicTemperature {
   public:
-    Temperature(double kelvin) : kelvin_(kelvin) {}
-    operator double() const { return kelvin_; }
+    BasicTemperature(const Number& kelvin) : kelvin_(kelvin) {}
+    operator const Number&() const { return kelvin_; }
+    const Number& kelvin() const { return kelvin_; }
 
     // Error 5: not above 0 K.
-    double logarithm() const {
-        if (!known_) {
-            logarithm_ = checked::naturalLogarithm(kelvin_);
-            known_ = true;
-        }
+    const Number& logarithm() const {
+        using checked::naturalLogarithm;
+        if (!isLogarithmKnown_) logarithm_ = naturalLogarithm(kelvin_);
+        isLogarithmKnown_ = true;
         return logarithm_;
     }
 
+    // Error 11: 0 K.
+    const Number& reciprocal() const {
+        using checked::divide;
+        if (!isReciprocalKnown_) reciprocal_ = divide(1.0, kelvin_);
+        isReciprocalKnown_ = true;
+        return reciprocal_;
+    }
+
   private:
-    double kelvin_;
-    mutable double logarithm_ = 0.0;
-    mutable bool known_ = false;
+    Number kelvin_;
+    mutable Number logarithm_, reciprocal_;
+    mutable bool isLogarithmKnown_ = false, isReciprocalKnown_ = false;
 };
+
+using Temperature = BasicTemperature<double>;
 
 }  // namespace velor
