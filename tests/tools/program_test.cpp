@@ -7,7 +7,10 @@
 #include <string>
 
 #include "object/configuration_file.h"
+#include "support/shipped_database.h"
 #include "support/temporary_folder.h"
+#include "velor/properties.h"
+#include "velor/smes.h"
 
 namespace velor {
 namespace {
@@ -56,6 +59,25 @@ TEST_F(Program, decompilingOverwritesNoTables) {
     const std::string database = folder.write("VELOR.DRC", std::string(509, ' '));
     EXPECT_EQ(run("rozloz " + database + " " + (folder / "text")).exitCode, 1);
     EXPECT_FALSE(std::filesystem::exists(folder / "text"));
+}
+
+TEST_F(Program, anOwnSubstanceGivesItsNumbers) {
+    const std::string table = folder / "moje.csv", database = folder / "MOJE.DRC";
+    ASSERT_EQ(run("sablona " + table).exitCode, 0);
+    EXPECT_EQ(run("sablona " + table).exitCode, 1);  // what was typed there would be lost
+    std::string text = test::readFile(table);
+    for (const auto& [from, to] :
+         {std::pair{"Voda,Water (H2O)", "Moje,"}, {"7732-18-5", "108-91-8"}, {"7732-18-5", "108-91-8"}})
+        text.replace(text.find(from), std::string_view(from).size(), to);
+    folder.write("moje.csv", text);
+    const Outcome added = run("pridej " VELOR_DATABASE " " + table + " -o " + database);
+    ASSERT_EQ(added.exitCode, 0) << added.errors;
+    RecordingUserInterface boxes;
+    Smes smes(boxes);
+    smes.AdrVELOR(database);
+    smes.DefSlozky(List({test::shippedSubstances() + 1}));
+    EXPECT_NEAR(smes.FFce(373.15, 1, kTENS).toDouble(), 101325, 200);  // Antoine's constants of water
+    EXPECT_EQ(smes.Zdroj(1, kTENS), "vlastní měření");
 }
 
 }  // namespace
