@@ -70,9 +70,9 @@ States flashStates(const Table& table, const Points& P, FlashKind kind) {
     return states;
 }
 
-void compareFlashes(const std::string& task, const Table& table, const Points& P, FlashKind kind) {
+void compareFlashes(const std::string& task, const Table& table, const Points& pressures, FlashKind kind) {
     compareArrays(
-        task, 0.34, flashStates(table, P, kind),
+        task, 0.34, flashStates(table, pressures, kind),
         [table, kind](const States& at, Points& values) {
             flash(table.prepared, kind, at.T, at.P, {table.mixture->fractions}, kPoints, {.vapourFractions = values});
         },
