@@ -47,7 +47,8 @@ if(VELOR_BUILD_DATABASE)
     foreach(folder cs/man1 man1)
         install(FILES ${PROJECT_SOURCE_DIR}/tools/baze/velor-baze.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/${folder})
     endforeach()
-    install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/VELOR.DRC DESTINATION ${database_folder})
+    install(FILES ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/VELOR.DRC ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/VELOR.DOP
+        DESTINATION ${database_folder})
     foreach(folder ${CMAKE_INSTALL_LIBDIR} ${CMAKE_INSTALL_BINDIR})
         install(CODE "
             set(folder \"${folder}\")

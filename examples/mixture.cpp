@@ -27,4 +27,4 @@ int main() {
 
 // It prints:
 // > boiling point 362 K
-// > density 867 kg/m3
+// > density 865 kg/m3

@@ -38,6 +38,6 @@ build() {
     (cd "$root" && quietly cmake --build --preset "$preset" ${1:+--target "$@"})
 }
 
-needed_to_build=(g++ cmake ninja-build libncurses-dev libcli11-dev nlohmann-json3-dev libgtest-dev gnuplot-nox)
+needed_to_build=(g++ cmake ninja-build libncurses-dev libcli11-dev libeigen3-dev nlohmann-json3-dev libgtest-dev gnuplot-nox)
 needed_for_windows=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools googletest libwine-dev wine64 xvfb
     xauth fonts-wine fonts-liberation zip unzip)

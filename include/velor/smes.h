@@ -19,6 +19,7 @@
 #include "velor/flash_record.h"
 #include "velor/record.h"
 #include "velor/run_time_error.h"
+#include "velor/supplement.h"
 #include "velor/user_interface.h"
 #include "velor/variant.h"
 
@@ -98,6 +99,15 @@ class Smes {
     // range shows "VLRConst( ) - chybné zadání!".
     float VLRConst(int i, int k, int j) const;
     void VLRConst(int i, int k, int j, const Variant& value);
+
+    // Where correlation k (1..10) of component i (1..count) comes from, as the supplement beside the database tells:
+    // its source, with ", odhad" behind it where nothing was measured, and the largest deviation from that source, %.
+    // Where the supplement cannot be read the source is a sentence that says so. Empty where nothing is told and for i or
+    // k out of range. What VLRConst wrote they do not know.
+    std::string Zdroj(int i, int k) const;
+    Variant Odchylka(int i, int k) const;
+    // The supplement itself, read when it is first asked for. It lives until the next call of these.
+    const Supplement& supplement() const;
 
     // ---- The database --------------------------------------------------------------------------------------------
 

@@ -10,19 +10,27 @@
 namespace velor {
 
 // What a record says of its substance: UTF-8, without the padding, control characters shown as "?".
+struct SubstanceName {
+    std::string text;
+    std::string folded;  // see folded() of text.h; of a further name without hyphens, commas and blanks
+    bool isSimple;       // not two names in one text
+};
+
 struct Substance {
     int number = 0;
     std::string name;
     std::string synonym;
     std::string formula;
-    std::string cas;  // registry number with hyphens; empty when not known
+    std::string cas;                               // registry number with hyphens; empty when not known
+    std::vector<SubstanceName> furtherNames = {};  // from the supplement; none where it cannot be read
 };
 
 using SubstanceList = std::vector<Substance>;
 
 Substance substanceOf(int number, const TLatka& record);
 
-// The used records of a database in the order of their numbers; none where the file is no database at all. Raises the
+// The used records of a database in the order of their numbers, with the names that its supplement has of them; none
+// where the file is no database at all. Raises the
 // errors of opening the file: 53, 70, 75, 76.
 SubstanceList readSubstances(const std::string& databasePath);
 
@@ -31,12 +39,6 @@ const Substance* findByNumber(const SubstanceList& substances, int number);
 
 // ---- The finder ---------------------------------------------------------------------------------
 // Letter case and diacritics do not matter; in a formula they decide first (CO, Co).
-
-struct SubstanceName {
-    std::string text;
-    std::string folded;  // see folded() of text.h
-    bool isSimple;       // not two names in one text
-};
 
 // The texts of the name and the synonym and, where one holds two names ("Water (H2O)"), these as well.
 std::vector<SubstanceName> namesOf(const Substance& substance);
@@ -56,8 +58,9 @@ struct FoundSubstance {
     std::vector<const Substance*> candidates;  // of the list searched
 };
 
-// The substance that is meant by a number, or a CAS number, a whole name, a formula; what comes first wins. A part of a
-// name alone is never enough to be sure.
+// The substance that is meant by a number, or a CAS number, a whole name, a formula, a further name; what comes first
+// wins. Hyphens, commas and blanks of a further name do not matter; one that covers several substances lists them. A
+// part of a name alone is never enough to be sure.
 FoundSubstance searchSubstance(const SubstanceList& substances, std::string_view wanted);
 
 // The names in a list as splitItems takes it. A comma that belongs to a whole name (2,2-Dimethylpropan) does not

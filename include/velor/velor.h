@@ -126,6 +126,21 @@ typedef struct velor_correlation {
 int velor_database_correlation(const velor_database* database, int number, int property,
                                velor_correlation* correlation);
 
+typedef struct velor_provenance {
+    size_t size;
+    const char* source;
+    double deviation; /* the largest one from the source over the range, %; NaN where it is not known */
+    int is_estimate;  /* 1: nothing was measured */
+} velor_provenance;
+
+/* Where the correlation of a pure property comes from, as the supplement VELOR.DOP beside the database tells. Nothing
+ * told: an empty source, NaN and 0. */
+int velor_database_provenance(const velor_database* database, int number, int property, velor_provenance* provenance);
+/* Why the supplement tells nothing, a Czech sentence; "" where it was read. */
+const char* velor_database_supplement_note(const velor_database* database);
+/* Further name k (from 0) of the substance of that number; NULL beyond the last one. */
+const char* velor_database_further_name(const velor_database* database, int number, int k);
+
 /* ---- Mixtures and their properties at many points ---------------------------------------------------------------- */
 
 typedef struct velor_mixture velor_mixture;

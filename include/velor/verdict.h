@@ -12,7 +12,9 @@
 
 namespace velor {
 
-// How a value stands to the correlations it comes from, or why there is none. Those that come later weigh more.
+// How a value stands to the correlations it comes from, or why there is none. Those that come later weigh more, but for
+// the last one, which is said only where there is nothing else to say. Numbers that were given stay: they are part of
+// the C interface.
 enum class Standing {
     InRange,
     Extrapolated,     // the temperature is outside the validity range
@@ -25,8 +27,9 @@ enum class Standing {
     BeyondReference,  // the equation has no value beyond its reference temperature
     Diverged,         // the iteration was given up
     Failed,
+    Estimated,  // as InRange, but a correlation is an estimate
 };
-inline constexpr std::size_t kStandings = 11;
+inline constexpr std::size_t kStandings = 12;
 
 // One word for machines.
 std::string_view standingWord(Standing standing);
@@ -39,7 +42,7 @@ struct PropertyValue {
     Standing standing;
     double value = 0;  // in the unit of the catalogue
 
-    bool isComputed() const { return standing <= Standing::Metastable; }
+    bool isComputed() const { return standing <= Standing::Metastable || standing == Standing::Estimated; }
 };
 
 // ---- Pure substances ----------------------------------------------------------------------------

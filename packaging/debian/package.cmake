@@ -25,7 +25,7 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
     "VELOR computes physical properties of organic substances, technical gases and
 their mixtures: densities, viscosities, thermal conductivities, heat
 capacities, vapour pressures, real-gas state functions, bubble and dew points,
-flashes. Its database holds 480 substances.
+flashes. Its database holds about 500 substances.
 
 The package has the command velor, the shared and the static C++ library, their
 headers, the database and velor-baze, which compiles databases. All of it

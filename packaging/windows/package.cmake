@@ -31,7 +31,7 @@ endif()
 
 set(generated ${PROJECT_BINARY_DIR}/src/com/generated)
 install(FILES $<TARGET_FILE:velor_com> $<TARGET_FILE:velor_static> ${generated}/velor.tlb ${import_library}
-    ${VELOR_NATIVE_BUILD}/bin/VELOR.DRC DESTINATION ${folder})
+    ${VELOR_NATIVE_BUILD}/bin/VELOR.DRC ${VELOR_NATIVE_BUILD}/bin/VELOR.DOP DESTINATION ${folder})
 if(NOT is_x64)
     return()
 endif()

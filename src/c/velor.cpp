@@ -2,6 +2,7 @@
 #include "velor/velor.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <limits>
 #include <memory>
@@ -16,6 +17,7 @@
 #include "velor/constants.h"
 #include "velor/flash_table.h"
 #include "velor/substances.h"
+#include "velor/supplement.h"
 #include "velor/table.h"
 #include "velor/text.h"
 #include "velor/version.h"
@@ -24,6 +26,8 @@ struct velor_database {
     std::string path;
     velor::SubstanceList substances;
     std::vector<velor::TLatka> records;  // one a substance
+    velor::Supplement supplement;
+    std::vector<std::array<velor::Provenance, velor::kSIGMA>> provenances;  // one a substance, by property
 };
 
 struct velor_mixture {
@@ -104,11 +108,15 @@ int indexOf(std::span<const Row> rows, const Row* row) {
     return row ? static_cast<int>(row - rows.data()) : -1;
 }
 
-const TLatka& recordOf(const velor_database* database, int number) {
+std::size_t placeOf(const velor_database* database, int number) {
     require(database, "Databáze chybí.");
     for (std::size_t i = 0; i < database->substances.size(); ++i)
-        if (database->substances[i].number == number) return database->records[i];
+        if (database->substances[i].number == number) return i;
     throw WrongUse{"Látka s tímto číslem není v bázi."};
+}
+
+const TLatka& recordOf(const velor_database* database, int number) {
+    return database->records[placeOf(database, number)];
 }
 
 std::span<const double> spanOf(const velor_series& series) {
@@ -215,6 +223,13 @@ int velor_database_open(const char* path, velor_database** database, velor_error
         if (opened->substances.empty()) checked::raise(RunTimeError::kTypeMismatch);
         const RecordFile file(opened->path);
         for (const Substance& substance : opened->substances) opened->records.push_back(file.read(substance.number));
+        opened->supplement = Supplement::of(opened->path);
+        for (const Substance& substance : opened->substances) {
+            auto& rows = opened->provenances.emplace_back();
+            for (int k = 1; k <= kSIGMA; ++k)
+                if (auto told = opened->supplement.provenance(substance.cas, k))
+                    rows[static_cast<std::size_t>(k - 1)] = std::move(*told);
+        }
         *database = opened.release();
     });
 }
@@ -290,6 +305,28 @@ int velor_database_correlation(const velor_database* database, int number, int p
                         static_cast<double>(block.Tmax)};
         std::ranges::copy(block.A, correlation->coefficients);
     });
+}
+
+int velor_database_provenance(const velor_database* database, int number, int property, velor_provenance* provenance) {
+    return guarded(nullptr, [&] {
+        requireSize(provenance);
+        const PureProperty& row = rowOf(pureProperties(), property);
+        const auto& told = database->provenances[placeOf(database, number)][static_cast<std::size_t>(row.number - 1)];
+        *provenance = {provenance->size, told.source.c_str(),
+                       told.deviation.value_or(std::numeric_limits<double>::quiet_NaN()), told.isEstimate};
+    });
+}
+const char* velor_database_supplement_note(const velor_database* database) {
+    return database ? literal(database->supplement.note()) : "";
+}
+const char* velor_database_further_name(const velor_database* database, int number, int k) {
+    const char* name = nullptr;
+    guarded(nullptr, [&] {
+        const auto& names = database->substances[placeOf(database, number)].furtherNames;
+        if (k >= 0 && static_cast<std::size_t>(k) < names.size())
+            name = names[static_cast<std::size_t>(k)].text.c_str();
+    });
+    return name;
 }
 
 int velor_mixture_create(const velor_database* database, const int* numbers, int count, const velor_settings* settings,

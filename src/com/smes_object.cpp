@@ -346,6 +346,8 @@ class SmesObject final : public ISmes, public ISupportErrorInfo {
     STDMETHODIMP get_Tichy(short* result) override { return answer(result, kTichy); }
     STDMETHODIMP put_Tichy(short value) override { return run(kTichy, value); }
     STDMETHODIMP get_PosledniHlaska(BSTR* result) override { return answer(result, &Smes::PosledniHlaska); }
+    STDMETHODIMP Zdroj(short i, short k, BSTR* result) override { return answer(result, &Smes::Zdroj, i, k); }
+    STDMETHODIMP Odchylka(short i, short k, VARIANT* result) override { return answer(result, &Smes::Odchylka, i, k); }
 
   private:
     // Every member: convert the arguments, call, give back what changed.

@@ -13,6 +13,7 @@
 #include "rules/pseudocritical.h"
 #include "velor/flash_record.h"
 #include "velor/substances.h"
+#include "velor/supplement.h"
 #include "velor/user_interface.h"
 #include "velor/variant.h"
 
@@ -46,6 +47,12 @@ struct DatabasePlace {
     std::string CFGPath;
     std::string CFGName = "VELOR.CFG";
     std::optional<std::vector<std::string>> volumes;  // none: the system is asked when they are needed
+};
+
+// The supplement of the database that was in use when it was last asked.
+struct KeptSupplement {
+    std::string database;
+    Supplement supplement;
 };
 
 struct SubstanceListState {
@@ -120,6 +127,7 @@ struct State {
     Settings settings;
     Definition definition;
     DatabasePlace place;
+    std::optional<KeptSupplement> supplement;
     SubstanceListState list;
     LastResults last;
     Prepared prepared;

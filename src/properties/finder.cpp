@@ -5,6 +5,7 @@
 #include <span>
 #include <utility>
 
+#include "runtime/text.h"
 #include "velor/substances.h"
 #include "velor/text.h"
 
@@ -97,6 +98,9 @@ Matches wholeMatches(const SubstanceList& substances, std::string_view wanted) {
         [&](const Substance& s) { return isCalled(s, name); },
         [&](const Substance& s) { return s.formula == wanted; },
         [&](const Substance& s) { return folded(s.formula) == name; },
+        [&, key = withoutSeparators(name)](const Substance& s) {
+            return std::ranges::find(s.furtherNames, key, &SubstanceName::folded) != s.furtherNames.end();
+        },
     };
     for (const Criterion& meaning : meanings)
         if (Matches matches = select(substances, meaning); !matches.empty()) return matches;
@@ -135,6 +139,18 @@ Matches similarTo(const SubstanceList& substances, std::string_view wanted) {
     return similar;
 }
 
+// Those whose further names hold the text or differ from it by a slip.
+Matches nearFurtherNames(const SubstanceList& substances, std::string_view wanted) {
+    const std::string key = withoutSeparators(folded(wanted));
+    const std::size_t slips = key.size() / 4;
+    const auto isNear = [&](const SubstanceName& name) {
+        return name.folded.find(key) != std::string::npos ||
+               (name.folded.size() <= key.size() + slips && key.size() <= name.folded.size() + slips &&
+                editDistance(key, name.folded) <= std::min<std::size_t>(slips, 1));
+    };
+    return select(substances, [&](const Substance& s) { return std::ranges::any_of(s.furtherNames, isNear); });
+}
+
 // What may have been meant by a text that is nothing as a whole, the likeliest first: a slip of typing, the beginning
 // of a name or of one of its words, any part of it.
 Matches nearMatches(const SubstanceList& substances, std::string_view wanted) {
@@ -146,6 +162,7 @@ Matches nearMatches(const SubstanceList& substances, std::string_view wanted) {
     };
     add(select(substances, begunBy(part)));
     add(select(substances, holding(part)));
+    if (near.empty()) near = nearFurtherNames(substances, wanted);
     return near;
 }
 

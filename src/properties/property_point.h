@@ -16,6 +16,7 @@
 #include "rules/pseudocritical.h"
 #include "rules/temperature.h"
 #include "velor/properties.h"
+#include "velor/supplement.h"
 #include "velor/verdict.h"
 
 namespace velor {
@@ -25,6 +26,7 @@ inline constexpr std::size_t kMostComponents = 20;
 struct PreparedComponents {
     ComponentSettings settings;
     std::vector<PreparedComponent> components;
+    std::vector<EstimatedProperties> estimated = {};  // of each component; none where nothing is told of them
     std::vector<PairFactor> pairs;  // of the gas's conductivity, by rows; none where a molar mass is missing
 };
 

@@ -26,6 +26,7 @@ constexpr std::array<Words, kStandings> kWords{{
     {"bez hodnoty", "r", "Rovnice nemá při této teplotě hodnotu (nad vztažnou teplotou)."},
     {"nekonverguje", "d", "Iterace nekonverguje."},
     {"chyba", "!", "Při výpočtu nastala chyba; v zadaném stavu hodnotu nelze určit."},
+    {"odhad", "o", "Korelace je odhad podle stavby molekuly nebo korespondujících stavů."},
 }};
 
 const Words& wordsOf(Standing standing) { return kWords[static_cast<std::size_t>(standing)]; }

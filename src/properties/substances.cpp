@@ -4,10 +4,12 @@
 #include <array>
 #include <cstdint>
 #include <string_view>
+#include <unordered_map>
 
 #include "records/record_file.h"
 #include "runtime/text.h"
 #include "runtime/windows_1250.h"
+#include "velor/supplement.h"
 
 namespace velor {
 
@@ -37,6 +39,21 @@ Substance substanceOf(int number, const TLatka& record) {
             registryNumber(record.CAS)};
 }
 
+namespace {
+
+void addFurtherNames(SubstanceList& substances, const Supplement& supplement) {
+    std::unordered_map<std::string_view, std::vector<Substance*>> byCas;
+    for (Substance& substance : substances) byCas[substance.cas].push_back(&substance);
+    supplement.forEachName([&](std::string_view cas, std::string_view name) {
+        const auto called = byCas.find(cas);
+        if (called == byCas.end()) return;
+        const SubstanceName further{std::string(name), withoutSeparators(folded(name)), true};
+        for (Substance* const substance : called->second) substance->furtherNames.push_back(further);
+    });
+}
+
+}  // namespace
+
 SubstanceList readSubstances(const std::string& databasePath) {
     const RecordFile file(databasePath);
     const int count = file.count();
@@ -48,7 +65,9 @@ SubstanceList readSubstances(const std::string& databasePath) {
         isDatabase = isDatabase || record.Cislo == number;
         substances.push_back(substanceOf(number, record));
     }
-    return isDatabase ? substances : SubstanceList{};
+    if (!isDatabase) return {};
+    addFurtherNames(substances, Supplement::of(databasePath));
+    return substances;
 }
 
 const Substance* findByNumber(const SubstanceList& substances, int number) {

@@ -3,15 +3,20 @@
 #include <limits>
 #include <vector>
 
+#include "properties/estimates.h"
 #include "properties/pure_value.h"
 #include "rules/equations.h"
 #include "rules/liquid.h"
+#include "velor/substances.h"
 
 namespace velor {
 
 bool isGiven(const Smes& smes, int slot, int property) { return smes.VLRConst(slot, property, kPriznak) != 0; }
 
-PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& property) {
+namespace {
+
+// Without a look at where the correlation comes from.
+PropertyValue judgedValue(Smes& smes, double T, int slot, const PureProperty& property) {
     if (!isGiven(smes, slot, property.number)) return {Standing::NotGiven};
     const auto type = static_cast<int>(smes.VLRConst(slot, property.number, kTyp));
     if (!isEquationType(type)) return {Standing::Failed};  // the engine would say so in a box each time
@@ -21,6 +26,19 @@ PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& prop
     } catch (const RunTimeError&) {
         return {Standing::Failed};
     }
+}
+
+bool isEstimated(const Smes& smes, int slot, Correlations correlations) {
+    return isAmong(correlations, smes.supplement().estimates(substanceOf(slot, smes.record(slot)).cas));
+}
+
+}  // namespace
+
+PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& property) {
+    PropertyValue found = judgedValue(smes, T, slot, property);
+    if (found.standing == Standing::InRange && isEstimated(smes, slot, {property.number}))
+        found.standing = Standing::Estimated;
+    return found;
 }
 
 namespace {
@@ -49,6 +67,14 @@ class Gathering {
         return std::nullopt;
     }
 
+    // Whether a correlation of a component that is there is an estimate.
+    bool restsOnEstimates() const {
+        for (int slot = 1; slot <= count(); ++slot)
+            if (fractions_[static_cast<std::size_t>(slot - 1)] > 0 && isEstimated(smes_, slot, property_.correlations))
+                return true;
+        return false;
+    }
+
   private:
     int count() const { return static_cast<int>(fractions_.size()); }
 
@@ -56,14 +82,14 @@ class Gathering {
         for (const PureProperty& pure : pureProperties()) {
             if (!property_.correlations.contains(pure.number)) continue;
             const bool isLeftOut = pure.number == kDHV && T >= smes_.Tkri(slot).toDouble();
-            take(pure, slot, isLeftOut ? Standing::LeftOut : pureValue(smes_, T, slot, pure).standing);
+            take(pure, slot, isLeftOut ? Standing::LeftOut : judgedValue(smes_, T, slot, pure).standing);
         }
         if (property_.correlations.contains(kReducedROLW)) takeDensity(slot, temperatureOfDensity(slot, T));
     }
 
     void takeDensity(int slot, double T) {
         const PureProperty& density = pureProperties()[kROLW - 1];
-        take(density, slot, pureValue(smes_, T, slot, density).standing);
+        take(density, slot, judgedValue(smes_, T, slot, density).standing);
     }
 
     void take(const PureProperty& pure, int slot, Standing standing) {
@@ -128,7 +154,10 @@ MixtureVerdict worstPureValue(Smes& smes, const MixtureProperty& property, doubl
     return Gathering(smes, property, X).worstAt(T);
 }
 
-MixtureVerdict mixtureValue(Smes& smes, const MixtureProperty& property, double T, double P, const Variant& X) {
+namespace {
+
+// Before a look at where the correlations come from.
+MixtureVerdict judgedValue(Smes& smes, const MixtureProperty& property, double T, double P, const Variant& X) {
     if (property.outcome) return saturationValue(smes, property, P, X);
     const MixtureVerdict worst = worstPureValue(smes, property, T, X);
     if (!worst.result.isComputed()) return worst;
@@ -137,6 +166,15 @@ MixtureVerdict mixtureValue(Smes& smes, const MixtureProperty& property, double 
     found.result.standing = standingOf(property, worst.result.standing);
     const bool isOfGasAtPressure = property.phase == Phase::Gas && property.needsPressure;
     if (isOfGasAtPressure && isMetastableGas(smes, T, P, X)) found.result.standing = Standing::Metastable;
+    return found;
+}
+
+}  // namespace
+
+MixtureVerdict mixtureValue(Smes& smes, const MixtureProperty& property, double T, double P, const Variant& X) {
+    MixtureVerdict found = judgedValue(smes, property, T, P, X);
+    if (found.result.standing == Standing::InRange && Gathering(smes, property, X).restsOnEstimates())
+        found.result.standing = Standing::Estimated;
     return found;
 }
 

@@ -124,6 +124,12 @@ std::string casText(std::string_view digits) {
     return text.append("-").append(digits, front, 2).append("-").append(1, digits.back());
 }
 
+std::string withoutSeparators(std::string_view text) {
+    std::string kept(text);
+    std::erase_if(kept, [](char c) { return c == '-' || c == ',' || c == ' '; });
+    return kept;
+}
+
 bool matchesPattern(std::string_view text, std::string_view pattern) {
     // After a "*" the match is tried from ever later characters; only the last "*" has to be remembered.
     std::string_view retryText, retryPattern;

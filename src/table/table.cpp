@@ -6,10 +6,12 @@
 #include <limits>
 #include <vector>
 
+#include "properties/estimates.h"
 #include "properties/property_point.h"
 #include "records/record_file.h"
 #include "table/lanes.h"
 #include "table/points.h"
+#include "velor/substances.h"
 
 namespace velor {
 
@@ -31,13 +33,22 @@ std::vector<PairFactor> pairFactors(const std::vector<PreparedComponent>& compon
     return pairs;
 }
 
-std::shared_ptr<const PreparedComponents> prepared(std::span<const TLatka> records, MixtureSettings settings) {
+std::shared_ptr<PreparedComponents> prepared(std::span<const TLatka> records, MixtureSettings settings) {
     if (records.empty() || records.size() > kMostComponents) refuse();
     auto mixture = std::make_shared<PreparedComponents>();
     mixture->settings = {settings.isSoave ? Attraction::Soave : Attraction::RedlichKwong, settings.isClamped};
     for (const TLatka& record : records) mixture->components.emplace_back(record, mixture->settings);
     mixture->pairs = pairFactors(mixture->components);
     return mixture;
+}
+
+// Kept only where there are any: the points then need not look.
+std::vector<EstimatedProperties> estimatesOf(std::span<const TLatka> records, const Supplement& supplement) {
+    std::vector<EstimatedProperties> estimated;
+    for (const TLatka& record : records)
+        estimated.push_back(supplement.estimates(substanceOf(record.Cislo, record).cas));
+    if (std::ranges::all_of(estimated, [](const auto& one) { return one.none(); })) estimated.clear();
+    return estimated;
 }
 
 std::vector<TLatka> recordsOf(const std::string& databasePath, std::span<const int> numbers) {
@@ -67,7 +78,25 @@ struct Results {
         if (!values.empty()) values[point] = found.isComputed() ? found.value : kNone;
         if (!verdicts.empty()) verdicts[point] = found.standing;
     }
+
+    // Where there is nothing else to say of a value that rests on an estimate.
+    void markEstimates(std::size_t from, std::size_t to) const {
+        if (!verdicts.empty())
+            std::ranges::replace(verdicts.subspan(from, to - from), Standing::InRange, Standing::Estimated);
+    }
 };
+
+bool isEstimated(const PreparedComponents& mixture, std::size_t component, Correlations correlations) {
+    return !mixture.estimated.empty() && isAmong(correlations, mixture.estimated[component]);
+}
+
+// Whether a correlation of a component that is there is an estimate.
+bool restsOnEstimates(const PreparedComponents& mixture, std::span<const double> fractions,
+                      const MixtureProperty& property) {
+    for (std::size_t i = 0; i < fractions.size(); ++i)
+        if (fractions[i] > 0 && isEstimated(mixture, i, property.correlations)) return true;
+    return false;
+}
 
 // Computes neighbouring points: side by side by lanes(functions, run), and those without a value there by alone(point).
 template <class InLanes, class Alone>
@@ -90,8 +119,12 @@ void compute(const Series& T, const Series& P, const Results& results, std::size
 }  // namespace
 
 PreparedMixture::PreparedMixture(const std::string& databasePath, std::span<const int> numbers,
-                                 MixtureSettings settings)
-    : components_(prepared(recordsOf(databasePath, numbers), settings)) {}
+                                 MixtureSettings settings) {
+    const std::vector<TLatka> records = recordsOf(databasePath, numbers);
+    const auto mixture = prepared(records, settings);
+    mixture->estimated = estimatesOf(records, Supplement::of(databasePath));
+    components_ = mixture;
+}
 
 PreparedMixture::PreparedMixture(std::span<const TLatka> records, MixtureSettings settings)
     : components_(prepared(records, settings)) {}
@@ -125,10 +158,15 @@ void evaluate(const PreparedMixture& mixture, const MixtureProperty& property, s
                     return lanes.mixture(components, fractions, pointProperty, run);
                 },
                 [&](std::size_t point) { return valueOf(point, fractions); });
+            if (restsOnEstimates(components, fractions, property)) results.markEstimates(from, to);
             return;
         }
-        for (std::size_t point = from; point < to; ++point)
-            results.set(point, reader.read(point, x) ? valueOf(point, fractions) : PropertyValue{Standing::Failed});
+        for (std::size_t point = from; point < to; ++point) {
+            const bool isComposition = reader.read(point, x);
+            results.set(point, isComposition ? valueOf(point, fractions) : PropertyValue{Standing::Failed});
+            if (isComposition && restsOnEstimates(components, fractions, property))
+                results.markEstimates(point, point + 1);
+        }
     });
 }
 
@@ -140,11 +178,14 @@ void evaluate(const PreparedMixture& mixture, const PureProperty& property, int 
     const std::size_t points = numberOfPoints(values, verdicts);
     const Series temperatures(T, points);
     const Results results{values, verdicts};
+    const bool isEstimate =
+        isEstimated(mixture.components(), static_cast<std::size_t>(component - 1), {property.number});
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
         compute(
             temperatures, temperatures, results, from, to,
             [&](const LaneFunctions& lanes, const Run& run) { return lanes.pure(one, property.number, run); },
             [&](std::size_t point) { return one.pure(property.number, temperatures[point]); });
+        if (isEstimate) results.markEstimates(from, to);
     });
 }
 

@@ -6,6 +6,7 @@
 #include "read_only_folder.h"
 #include "runtime/text.h"
 #include "small_database.h"
+#include "support/shipped_database.h"
 
 namespace velor::test {
 namespace {
@@ -28,7 +29,7 @@ struct SubstanceListTest : ::testing::Test {
 TEST_F(SubstanceListTest, holdsEverySubstanceOnce) {
     const std::string copy = folder / "VELOR.DRC";
     std::filesystem::copy_file(VELOR_DATABASE, copy);
-    Numbers all(480);
+    Numbers all(static_cast<std::size_t>(shippedSubstances()));
     std::iota(all.begin(), all.end(), 1);
     EXPECT_EQ(numbersOf(run(words("seznam --podle cisel --json --baze " + copy))), all);
 

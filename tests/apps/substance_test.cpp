@@ -58,10 +58,12 @@ TEST_F(SubstanceTest, correlationsAreShownAsTheRecordHoldsThem) {
     ASSERT_EQ(correlations.size(), 10U);
     EXPECT_EQ(correlations[8], nlohmann::json::parse(R"({"vlastnost": "TENS", "popis": "tenze par", "jednotka": "Pa",
         "Tmin": 100, "Tmax": 240, "typ": 7, "A1": 0.3, "A2": 0.25, "A3": 250.0, "A4": 0.0, "A5": 0.0, "A6": 0.0,
-        "vztah": "log(y) = 3 + log(A1) - (1 - T/A3)^(2/7) .log(A2)    A3=Tkr"})"));
+        "zdroj": null, "odchylka": null, "odhad": null, "vztah": "log(y) = 3 + log(A1) - (1 - T/A3)^(2/7) .log(A2)    A3=Tkr"})"));
     EXPECT_EQ(correlations[6]["vztah"], "Neznámý vztah!");
     EXPECT_TRUE(correlations[9]["A1"].is_null() && correlations[9]["Tmax"].is_null());
     expectMentions(latka({"10"}, "--csv").out, "\nTENS.Tmax,Tmax,240,K\n");
+    expectMentions(latka({"1"}, "").out, "Doplněk báze VELOR.DOP chybí.");
+    expectMentions(run(words("latka 226")).out, "odhad");
     expectMentions(latka({"1"}, "").out, "\nKonstanty\n");
     expectMentions(latka({"1"}, "").out, "IAPWS");  // water's density has an equation of its own
     EXPECT_EQ(latka({"2"}, "").out.find("IAPWS"), std::string::npos);

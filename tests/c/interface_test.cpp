@@ -87,8 +87,16 @@ TEST_F(CInterface, theDatabaseTellsWhatItHolds) {
     EXPECT_EQ(finding, VELOR_FOUND);
     EXPECT_EQ(found[0], 235);
     ASSERT_EQ(velor_database_find(database, "xylen", &finding, found, 2, &count, &error), VELOR_OK);
-    EXPECT_EQ(finding, VELOR_UNKNOWN);
-    EXPECT_GT(count, 2);
+    EXPECT_EQ(finding, VELOR_SEVERAL);
+    EXPECT_EQ(count, 3);
+    velor_provenance told{sizeof told, "", 0, 0};
+    const int octacosane = 64, pressure = velor_find_pure_property("TENS");
+    ASSERT_EQ(velor_database_provenance(database, octacosane, pressure, &told), VELOR_OK);
+    EXPECT_STREQ(told.source, "Ambrose-Walton");
+    EXPECT_TRUE(told.is_estimate == 1 && told.deviation > 0);
+    EXPECT_STREQ(velor_database_supplement_note(database), "");
+    EXPECT_STREQ(velor_database_further_name(database, 1, 0), "vodní pára");
+    EXPECT_EQ(velor_database_further_name(database, 1, 1000), nullptr);
     double Tc = 0;
     ASSERT_STREQ(velor_constant_key(1), "Tkr");
     ASSERT_EQ(velor_database_constant(database, 1, 1, &Tc), VELOR_OK);

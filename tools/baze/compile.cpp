@@ -21,6 +21,26 @@ void addCorrelations(Substances& substances, const std::vector<CorrelationRow>& 
     }
 }
 
+void fill(Compilation& result, std::string_view substances, std::string_view correlations, Checks checks,
+          const SupplementTexts& further) {
+    Substances read = readSubstances(substances, checks, result.substanceFaults);
+    const auto rows = readCorrelations(correlations, checks, result.correlationFaults);
+    addCorrelations(read, rows, result.correlationFaults);
+    const int count = read.records.empty() ? 0 : read.records.rbegin()->first;
+    if (checks == Checks::Full && result.succeeded() && count < kLeastRecords)
+        result.substanceFaults.push_back({1, "nejvyšší číslo látky má být aspoň " + std::to_string(kLeastRecords) +
+                                                 ", kratší bázi knihovna nepřijme"});
+    if (!result.succeeded()) return;
+    const std::string supplement = makeSupplement(read.records, rows, further, result.supplementFaults);
+    if (!result.succeeded()) return;
+    result.supplement = supplement;
+    result.bytes = databaseBytes(read.records);
+    result.substances = static_cast<int>(read.records.size());
+    result.correlations = static_cast<int>(rows.size());
+}
+
+}  // namespace
+
 std::string databaseBytes(const std::map<int, TLatka>& records) {
     const auto blank = encodeRecord(blankRecord());
     std::string bytes;
@@ -34,31 +54,17 @@ std::string databaseBytes(const std::map<int, TLatka>& records) {
     return bytes;
 }
 
-void fill(Compilation& result, std::string_view substances, std::string_view correlations, Checks checks) {
-    Substances read = readSubstances(substances, checks, result.substanceFaults);
-    const auto rows = readCorrelations(correlations, checks, result.correlationFaults);
-    addCorrelations(read, rows, result.correlationFaults);
-    const int count = read.records.empty() ? 0 : read.records.rbegin()->first;
-    if (checks == Checks::Full && result.succeeded() && count < kLeastRecords)
-        result.substanceFaults.push_back({1, "nejvyšší číslo látky má být aspoň " + std::to_string(kLeastRecords) +
-                                                 ", kratší bázi knihovna nepřijme"});
-    if (!result.succeeded()) return;
-    result.bytes = databaseBytes(read.records);
-    result.substances = static_cast<int>(read.records.size());
-    result.correlations = static_cast<int>(rows.size());
-}
-
-}  // namespace
-
-Compilation compile(std::string_view substances, std::string_view correlations, Checks checks) {
+Compilation compile(std::string_view substances, std::string_view correlations, Checks checks,
+                    const SupplementTexts& further) {
     Compilation result;
     try {
-        fill(result, substances, correlations, checks);
+        fill(result, substances, correlations, checks, further);
     } catch (const LineFaults::Full&) {
         result.hasMoreFaults = true;
     }
     result.substanceFaults.sortByLine();
     result.correlationFaults.sortByLine();
+    result.supplementFaults.sharedNames.sortByLine();
     return result;
 }
 

@@ -23,7 +23,8 @@ bool isUtf8(std::string_view text) {
 
 class CsvReader {
   public:
-    CsvReader(std::string_view text, LineFaults& faults) : rest_(text), faults_(faults) {
+    CsvReader(std::string_view text, LineFaults& faults, int firstLine)
+        : rest_(text), faults_(faults), line_(firstLine) {
         if (rest_.starts_with(kByteOrderMark)) rest_.remove_prefix(kByteOrderMark.size());
     }
 
@@ -107,7 +108,7 @@ class CsvReader {
 
     std::string_view rest_;
     LineFaults& faults_;
-    int line_ = 1;
+    int line_;
     bool rowIsBad_ = false;
 };
 
@@ -124,7 +125,9 @@ void appendQuoted(std::string& text, std::string_view cell) {
 
 }  // namespace
 
-std::vector<CsvRow> readCsv(std::string_view text, LineFaults& faults) { return CsvReader(text, faults).rows(); }
+std::vector<CsvRow> readCsv(std::string_view text, LineFaults& faults, int firstLine) {
+    return CsvReader(text, faults, firstLine).rows();
+}
 
 void appendCsvRow(std::string& text, std::span<const std::string> cells) {
     const char* separator = "";

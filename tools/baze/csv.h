@@ -15,8 +15,9 @@ struct CsvRow {
     std::vector<std::string> cells;
 };
 
-// The well-formed rows of a UTF-8 text; a row that is not is reported and left out.
-std::vector<CsvRow> readCsv(std::string_view text, LineFaults& faults);
+// The well-formed rows of a UTF-8 text, whose lines are counted from the first one told; a row that is not is reported
+// and left out.
+std::vector<CsvRow> readCsv(std::string_view text, LineFaults& faults, int firstLine = 1);
 
 // Adds one row that reads back as the same cells.
 void appendCsvRow(std::string& text, std::span<const std::string> cells);

@@ -7,20 +7,31 @@
 
 namespace velor::baze {
 
-std::optional<CsvTable> CsvTable::read(std::string_view text, std::span<const Column> columns, LineFaults& faults) {
+namespace {
+
+void dropEmptyEnd(std::vector<std::string>& cells, std::size_t least) {
+    while (cells.size() > least && cells.back().empty()) cells.pop_back();
+}
+
+}  // namespace
+
+std::optional<CsvTable> CsvTable::read(std::string_view text, std::span<const Column> columns, LineFaults& faults,
+                                       int firstLine) {
     const std::size_t faultsBefore = faults.size();
     CsvTable table;
-    table.rows_ = readCsv(text, faults);
+    table.rows_ = readCsv(text, faults, firstLine);
     table.complete_ = faults.size() == faultsBefore;
-    if (table.rows_.empty() || table.rows_.front().line != 1) {
-        if (table.complete_) faults.push_back({1, "chybí záhlaví se jmény sloupců"});
+    if (table.rows_.empty() || table.rows_.front().line != firstLine) {
+        if (table.complete_) faults.push_back({firstLine, "chybí záhlaví se jmény sloupců"});
         return std::nullopt;
     }
-    const CsvRow header = std::move(table.rows_.front());
+    CsvRow header = std::move(table.rows_.front());
+    dropEmptyEnd(header.cells, 1);
     table.rows_.erase(table.rows_.begin());
     if (!table.readHeader(header, columns, faults)) return std::nullopt;
 
-    const auto isOdd = [&](const CsvRow& row) {
+    const auto isOdd = [&](CsvRow& row) {
+        dropEmptyEnd(row.cells, table.header_.size());
         if (row.cells.size() == table.header_.size()) return false;
         faults.push_back({row.line, "polí je " + std::to_string(row.cells.size()) + ", záhlaví jich má " +
                                         std::to_string(table.header_.size())});

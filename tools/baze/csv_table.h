@@ -21,7 +21,9 @@ struct Column {
 class CsvTable {
   public:
     // Columns stand in any order. Empty when the header does not fit; then the rows are not looked at.
-    static std::optional<CsvTable> read(std::string_view text, std::span<const Column> columns, LineFaults& faults);
+    // Empty columns at its end, which worksheets leave behind, are no columns. Lines count from the first one told.
+    static std::optional<CsvTable> read(std::string_view text, std::span<const Column> columns, LineFaults& faults,
+                                        int firstLine = 1);
 
     // Rows with as many cells as the header.
     const std::vector<CsvRow>& rows() const { return rows_; }

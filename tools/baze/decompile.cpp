@@ -10,6 +10,7 @@
 #include "baze/correlations_table.h"
 #include "baze/substances_table.h"
 #include "records/record_layout.h"
+#include "velor/substances.h"
 
 namespace velor::baze {
 
@@ -33,7 +34,7 @@ bool isAbsent(std::string_view block) {
 
 }  // namespace
 
-TextDatabase decompile(std::string_view bytes) {
+TextDatabase decompile(std::string_view bytes, const Supplement& supplement) {
     TextDatabase text;
     text.refusal = refusalOf(bytes);
     if (!text.refusal.empty()) return text;
@@ -41,6 +42,7 @@ TextDatabase decompile(std::string_view bytes) {
     const auto blank = encodeRecord(blankRecord());
     std::vector<std::vector<std::string>> substances;
     std::vector<std::vector<std::string>> correlations;
+    std::map<int, TLatka> records;
     int number = 0;
     for (std::string_view rest = bytes; !rest.empty(); rest.remove_prefix(kRecordSize)) {
         ++number;
@@ -50,14 +52,18 @@ TextDatabase decompile(std::string_view bytes) {
         if (!isLast && std::equal(own.begin(), own.end(), blank.begin())) continue;
         const TLatka record = decodeRecord(std::span<const char, kRecordSize>(own.data(), kRecordSize));
         substances.push_back(substanceCells(number, record));
+        records.emplace(number, record);
+        const std::string cas = substanceOf(number, record).cas;
         for (int k = 1; k <= TLatka::kCorrelations; ++k) {
             const auto index = static_cast<std::size_t>(k - 1);
             if (isAbsent(own.substr(kBlocksOffset + kBlockSize * index, kBlockSize))) continue;
-            correlations.push_back(correlationCells(number, k, record.Korelace[index]));
+            correlations.push_back(correlationCells(number, k, record.Korelace[index],
+                                                    supplement.provenance(cas, k).value_or(Provenance())));
         }
     }
     text.substances = writeSubstances(substances);
     text.correlations = writeCorrelations(correlations);
+    text.further = takeApart(supplement.text(), records);
     return text;
 }
 

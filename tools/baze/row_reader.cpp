@@ -3,6 +3,8 @@
 #include <cmath>
 #include <utility>
 
+#include "velor/smes.h"
+
 namespace velor::baze {
 
 template <class Value>
@@ -47,6 +49,13 @@ std::optional<int> RowReader::recordNumber(std::string_view column) {
     if (!number) return std::nullopt;
     if (*number >= 1) return *number;
     fault(column, "číslo látky má být 1 až 32767, ne " + std::to_string(*number));
+    return std::nullopt;
+}
+
+std::optional<int> RowReader::property(std::string_view column) {
+    for (int k = 1; k <= TLatka::kCorrelations; ++k)
+        if (Smes::ChybRozv(k) == cell(column)) return k;
+    fault(column, quoted(cell(column)) + " není vlastnost (ETAG, CPG … SIGMA, Rezerva)");
     return std::nullopt;
 }
 

@@ -27,6 +27,9 @@ class RowReader {
     // The number of the record that the row belongs to.
     std::optional<int> recordNumber(std::string_view column);
 
+    // 1 to 11, by its code.
+    std::optional<int> property(std::string_view column);
+
     // A fault of form, and one of content, which counts in full checking only.
     void fault(std::string_view column, std::string_view reason);
     void doubt(std::string_view column, std::string_view reason);

@@ -195,6 +195,44 @@ Substances readSubstances(std::string_view text, Checks checks, LineFaults& faul
     return substances;
 }
 
+namespace {
+
+bool isRequired(std::string_view column) {
+    const ConstantRule* const rule = ruleOf(column);
+    return column == kName || column == "CAS" || (rule != nullptr && rule->required);
+}
+
+std::vector<Column> ownColumns() {
+    std::vector<Column> columns;
+    for (const Column& column : kColumns)
+        columns.push_back({column.name, isRequired(column.name) ? Presence::Always : Presence::WhenNeeded});
+    return columns;
+}
+
+}  // namespace
+
+std::vector<OwnSubstance> readOwnSubstances(std::string_view text, int firstLine, LineFaults& faults) {
+    std::vector<OwnSubstance> substances;
+    const auto columns = ownColumns();
+    const auto table = CsvTable::read(text, columns, faults, firstLine);
+    if (!table) return substances;
+    std::map<std::string, int> lineOfName;
+    std::map<std::int32_t, int> lineOfCas;
+    for (const CsvRow& cells : table->rows()) {
+        RowReader row(*table, cells, Checks::Full, faults);
+        const int number = row.cell(kNumber).empty() ? 0 : row.recordNumber(kNumber).value_or(0);
+        const TLatka record = readRecord(row, number);
+        checkName(row, lineOfName);
+        if (row.cell("CAS").empty()) {
+            row.fault("CAS", "registrační číslo chybí, podle něj se látka pozná");
+        } else if (const auto [earlier, isNew] = lineOfCas.emplace(record.CAS, row.line()); !isNew) {
+            row.fault("CAS", std::string(row.cell("CAS")) + " už je na řádku " + std::to_string(earlier->second));
+        }
+        substances.push_back({row.line(), record});
+    }
+    return substances;
+}
+
 TLatka blankRecord() {
     TLatka record;
     record.Nazev.fill(' ');
@@ -208,6 +246,16 @@ std::vector<std::string> substanceCells(int number, const TLatka& record) {
     cells.reserve(kColumns.size());
     for (const Column& column : kColumns) cells.push_back(cellOf(column.name, number, record));
     return cells;
+}
+
+std::string ownSubstancesHeader() {
+    std::vector<std::string> names;
+    for (const Column& column : kColumns)
+        if (column.presence == Presence::Always && column.name != kNumber && column.name != "skupina")
+            names.emplace_back(column.name);
+    std::string text;
+    appendCsvRow(text, names);
+    return text;
 }
 
 std::string writeSubstances(const std::vector<std::vector<std::string>>& rows) { return writeTable(kColumns, rows); }

@@ -1,22 +1,14 @@
-#include <sys/prctl.h>
-#include <sys/wait.h>
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cmath>
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
 #include <limits>
-#include <memory>
 #include <set>
 #include <utility>
 
 #include "output/output.h"
 #include "people/people.h"
 #include "shared/files.h"
+#include "shared/gnuplot.h"
 #include "velor/text.h"
 
 namespace velor::app {
@@ -25,87 +17,10 @@ namespace {
 
 [[noreturn]] void fail(const std::string& text) { throw Failure(ExitCode::NothingComputed, text); }
 
-// A file without a name, gone with the object.
-class ScratchFile {
-  public:
-    explicit ScratchFile(std::string_view content = "") : file_(std::tmpfile(), &std::fclose) {
-        if (!file_) fail("Pro kreslení nelze vytvořit dočasný soubor.");
-        std::fwrite(content.data(), 1, content.size(), file_.get());
-        if (std::fflush(file_.get()) != 0) fail("Do dočasného souboru nelze zapsat.");
-        std::rewind(file_.get());
-    }
-
-    int descriptor() const { return fileno(file_.get()); }
-
-    std::string content() {
-        std::rewind(file_.get());
-        std::string text;
-        char buffer[4096];
-        while (const std::size_t count = std::fread(buffer, 1, sizeof buffer, file_.get())) text.append(buffer, count);
-        return text;
-    }
-
-  private:
-    std::unique_ptr<std::FILE, int (*)(std::FILE*)> file_;
-};
-
-constexpr int kNotFound = 127;  // as shells say that there is no such program
-
-// In the new process: only what may be called there between fork and exec.
-[[noreturn]] void becomeGnuplot(int input, int output, int errors) {
-    prctl(PR_SET_PDEATHSIG, SIGKILL);  // it ends with the command, whatever ends that
-    dup2(input, STDIN_FILENO);
-    dup2(output, STDOUT_FILENO);
-    dup2(errors, STDERR_FILENO);
-    execlp("gnuplot", "gnuplot", "--default-settings", nullptr);  // not those of the user
-    _exit(kNotFound);
-}
-
-int exitCodeOf(pid_t process) {
-    int status = 0;
-    while (waitpid(process, &status, 0) < 0)
-        if (errno != EINTR) return EXIT_FAILURE;
-    constexpr int kSignalled = 128;  // as shells tell it
-    return WIFEXITED(status) ? WEXITSTATUS(status) : kSignalled + WTERMSIG(status);
-}
-
-// Runs a script that draws to the standard output, in a process of its own, and returns the picture's bytes.
-std::string runGnuplot(std::string_view script) {
-    const ScratchFile input(script);
-    ScratchFile picture, errors;
-    const pid_t process = fork();
-    if (process == 0) becomeGnuplot(input.descriptor(), picture.descriptor(), errors.descriptor());
-    if (process < 0) fail("Program gnuplot nelze spustit.");
-    const int exitCode = exitCodeOf(process);
-    if (exitCode == kNotFound) fail("Obrázky kreslí program gnuplot, který není nainstalován (balíček gnuplot-nox).");
-    std::string image = picture.content();
-    if (exitCode != 0 || image.empty())
-        fail("Program gnuplot obrázek nenakreslil (kód " + std::to_string(exitCode) + "): " + errors.content());
-    return image;
-}
-
 constexpr std::string_view kSvg = ".svg", kPng = ".png";
 
 bool endsIn(std::string_view name, std::string_view ending) {
     return name.size() > ending.size() && equalIgnoringCase(name.substr(name.size() - ending.size()), ending);
-}
-
-std::string code(unsigned char byte) {
-    const char digits[] = {'\\', static_cast<char>('0' + byte / 64), static_cast<char>('0' + byte / 8 % 8),
-                           static_cast<char>('0' + byte % 8)};
-    return {digits, sizeof digits};
-}
-
-// A text of gnuplot's that nothing is interpreted in: what is no letter or blank stands by its octal code,
-// digits as well, because gnuplot would read them as part of a code before them.
-std::string literal(std::string_view text) {
-    std::string result = "\"";
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        const bool isLetter = (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || byte >= 0x80;
-        result += isLetter || c == ' ' ? std::string(1, c) : code(byte);
-    }
-    return result + "\"";
 }
 
 std::string coordinates(const Curve::Point& point) { return exactText(*point.x) + " " + exactText(*point.y) + "\n"; }
@@ -167,7 +82,7 @@ std::string plotCommand(const std::vector<Curve>& curves, const std::set<std::st
         const bool isDrawn =
             std::ranges::any_of(kParts, [&](Part part) { return blocks.contains(blockName(i, part)); });
         text += std::exchange(separator, ", ") + plotted("keyentry", colour, Part::Sure) + " title " +
-                literal(curves[i].name + (isDrawn ? "" : " (bez hodnot)"));
+                gnuplotText(curves[i].name + (isDrawn ? "" : " (bez hodnot)"));
         for (const Part part : kParts) {
             if (!blocks.contains(blockName(i, part))) continue;
             text += separator + plotted(blockName(i, part), colour, part) + " notitle";
@@ -176,7 +91,7 @@ std::string plotCommand(const std::vector<Curve>& curves, const std::set<std::st
     }
     if (!isAllSure)
         text += separator + plotted("keyentry", "#000000", Part::Unsure) + " title " +
-                literal("mimo platnost, metastabilní apod.");
+                gnuplotText("mimo platnost, metastabilní apod.");
     return text + "\n";
 }
 
@@ -200,8 +115,8 @@ std::string script(const Picture& picture, bool isPng) {
     text += "set format y " + labelFormat(picture.curves, &Curve::Point::y);
     if (picture.isOverFractions) text += "set xrange [0:1]\n";
     text += "set grid linewidth 0.5\nset key tmargin center horizontal\n";
-    text += "set title " + literal(picture.title) + "\nset xlabel " + literal(picture.horizontal) + "\nset ylabel " +
-            literal(picture.vertical) + "\n";
+    text += "set title " + gnuplotText(picture.title) + "\nset xlabel " + gnuplotText(picture.horizontal) +
+            "\nset ylabel " + gnuplotText(picture.vertical) + "\n";
     std::set<std::string> blocks;  // those that hold anything: gnuplot complains of empty ones
     for (std::size_t i = 0; i < picture.curves.size(); ++i) {
         for (const Part part : kParts) {
@@ -234,7 +149,13 @@ std::string pictureFileName(std::string_view name) {
 }
 
 void drawPicture(const Picture& picture, const std::string& fileName) {
-    const std::string image = runGnuplot(script(picture, endsIn(fileName, kPng)));
+    const std::string commands = script(picture, endsIn(fileName, kPng));
+    std::string image;
+    try {
+        image = runGnuplot(commands);
+    } catch (const GnuplotFailure& failure) {
+        fail(failure.what());
+    }
     try {
         replaceFile(fileName, image);
     } catch (const RunTimeError& error) {

@@ -56,9 +56,23 @@ Row propertyCells(const PureProperty& property) {
     return {{std::string(property.code), {}}, {std::string(property.caption), {}}};
 }
 
-std::vector<std::string> densityNote(const Substance& substance) {
-    const std::string_view note = correlationNote(substance.number, kROLW);
-    return note.empty() ? std::vector<std::string>() : std::vector{std::string(note)};
+// Where a correlation comes from; nothing where the supplement does not tell.
+const std::vector<Column> kProvenanceColumns{
+    {"zdroj", "zdroj", ""}, {"odchylka", "odchylka", "%"}, {"odhad", "odhad", ""}};
+
+Row provenanceCells(const Smes& smes, const Substance& substance, int property) {
+    const auto told = smes.supplement().provenance(substance.cas, property);
+    if (!told) return Row(kProvenanceColumns.size());
+    return {textCell(told->source),
+            {told->deviation ? Value(*told->deviation) : Value(), {}},
+            textCell(told->isEstimate ? "odhad" : "")};
+}
+
+std::vector<std::string> correlationNotes(const Smes& smes, const Substance& substance) {
+    std::vector<std::string> notes;
+    for (const std::string_view note : {correlationNote(substance.number, kROLW), smes.supplement().note()})
+        if (!note.empty()) notes.emplace_back(note);
+    return notes;
 }
 
 }  // namespace
@@ -92,14 +106,16 @@ Section correlationsSection(const Smes& smes, const Substance& substance, int sl
         const std::string name = "A" + std::to_string(j);
         table.columns.push_back({name, name, ""});
     }
+    table.columns = columns(table.columns, kProvenanceColumns);
     for (const PureProperty& property : pureProperties()) {
         Row row = propertyCells(property);
         row.push_back(textCell(property.unit));
         append(row, equationCells(smes, slot, property.number));
         append(row, coefficientCells(smes, slot, property.number));
+        append(row, provenanceCells(smes, substance, property.number));
         table.rows.push_back(std::move(row));
     }
-    return {"korelace", "Korelace", std::move(table), densityNote(substance)};
+    return {"korelace", "Korelace", std::move(table), correlationNotes(smes, substance)};
 }
 
 Section valuesSection(Smes& smes, double T, const Substance& substance, int slot) {

@@ -5,12 +5,16 @@
 #include <filesystem>
 
 #include "runtime/text.h"
+#include "support/shipped_database.h"
 #include "views/terminal/tmux.h"
 
 namespace velor::test {
 namespace {
 
 const std::string kVelor = std::string(VELOR_PROGRAMS) + "/velor";
+const std::string kSubstances = std::to_string(shippedSubstances());
+const std::string kOfAll = " z " + kSubstances;
+const std::string kListIsThere = "Počet látek je " + kSubstances;
 
 struct Views : ::testing::Test {
     TemporaryFolder folder;
@@ -45,7 +49,7 @@ struct Views : ::testing::Test {
 
 TEST_F(Views, chooseComposeAndFlash) {
     start("smes --dialog", ">" + (folder / "vysledek"));
-    terminal.waitFor("Počet látek je 480");
+    terminal.waitFor(kListIsThere);
     // clang-format off
     follow({
         {"pentan", "", "pentan_"}, {"", "Enter", "41 "},  // a name typed into the box of numbers is searched for
@@ -65,7 +69,7 @@ TEST_F(Views, chooseComposeAndFlash) {
 
 TEST_F(Views, displayAndChangeAComponent) {
     start("smes --dialog");
-    terminal.waitFor("Počet látek je 480");
+    terminal.waitFor(kListIsThere);
     // clang-format off
     follow({
         {"1", "Enter M-s", "1. Voda"}, {"1", "F2", "Zobrazení složky č. 1: Voda"},
@@ -87,7 +91,7 @@ TEST_F(Views, displayAndChangeAComponent) {
 
 TEST_F(Views, takeTheMouse) {
     start("smes --dialog");
-    terminal.waitFor("Počet látek je 480");
+    terminal.waitFor(kListIsThere);
     follow({{"voda", "", "voda_"}});
     for (int clicks = 0; clicks < 2; ++clicks) terminal.click(terminal.rowOf("7732-18-5"), 10);
     terminal.waitFor("\n Voda\n");
@@ -109,7 +113,7 @@ TEST_F(Views, takeTheMouse) {
 
 TEST_F(Views, fitEveryWindow) {
     start("smes --dialog");
-    terminal.waitFor("Počet látek je 480");
+    terminal.waitFor(kListIsThere);
     follow({{"1", "Enter", ""}});
     for (const auto& [columns, rows] : {std::pair{160, 40}, {40, 12}, {9, 3}, {60, 20}}) {
         terminal.resize(columns, rows);
@@ -122,7 +126,7 @@ TEST_F(Views, fitEveryWindow) {
     }
     // Columns stay aligned under their headings, Czech letters or not.
     terminal.type("kyselina m");
-    terminal.waitFor("4 z 480");
+    terminal.waitFor("4 z " + kSubstances);
     terminal.waitFor("Formic");  // the list is drawn after the count
     const auto columnOf = [&](const std::string& line, const std::string& text) {
         return characterCount(line.substr(0, line.find(text)));
@@ -132,11 +136,11 @@ TEST_F(Views, fitEveryWindow) {
 
 TEST_F(Views, browseTheList) {
     start("seznam");
-    terminal.waitFor("Počet zahrnutých látek  480");
+    terminal.waitFor("Počet zahrnutých látek  " + kSubstances);
     // clang-format off
     follow({
-        {"", "NPage", "1-Chlorpropan"}, {"", "End", ""}, {"ethanolamin", "", " z 480"}, {"", "", "Triethanolamin"},
-        {"", "Enter", "Látka č. "}, {"", "", "Teplota [K]:"}, {"", "Escape", " z 480"}, {"", "x", "nenalezena!!!"}});
+        {"", "NPage NPage", "1-Chlorpropan"}, {"", "End", ""}, {"ethanolamin", "", kOfAll.c_str()}, {"", "", "Triethanolamin"},
+        {"", "Enter", "Látka č. "}, {"", "", "Teplota [K]:"}, {"", "Escape", kOfAll.c_str()}, {"", "x", "nenalezena!!!"}});
     // clang-format on
     terminal.press("Escape");
     terminal.waitUntilGone("nenalezena");
@@ -157,14 +161,14 @@ TEST_F(Views, giveTheTerminalBack) {
         terminal.type("sh -c \"echo \\$\\$ >" + pidFile + "; exec " + kVelor + " smes --dialog --baze " + database +
                       "\"");
         terminal.press("Enter");
-        terminal.waitFor("Počet látek je 480");
+        terminal.waitFor(kListIsThere);
         EXPECT_EQ(terminal.modes(), "111") << name;
         if (signal == 0) {
             terminal.press(name);
         } else {
             EXPECT_EQ(kill(std::stoi(content("pid")), signal), 0) << name;
         }
-        terminal.waitUntilGone("Počet látek je 480");
+        terminal.waitUntilGone(kListIsThere);
         terminal.type("clear; stty -a | grep -oE -e \" -?icanon\" -e \" -?echo \"; echo hotovo $((1+1))");
         terminal.press("Enter");
         const std::string shown = terminal.waitFor("hotovo 2");
@@ -177,7 +181,7 @@ TEST_F(Views, giveTheTerminalBack) {
 // What a keyboard, a paste or another terminal may send.
 TEST_F(Views, passOverWhatMeansNothing) {
     start("smes --dialog");
-    terminal.waitFor("Počet látek je 480");
+    terminal.waitFor(kListIsThere);
     const std::string long9(400, '9');
     // clang-format off
     follow({
@@ -188,7 +192,7 @@ TEST_F(Views, passOverWhatMeansNothing) {
         {"", "Enter", "-1"},  // to be mended, not typed anew
         {"", "Down C-u", ""}, {"1", "M-p", "Spočítat flash této směsi?"}});
     terminal.resize(40, 15);
-    follow({{"", "", "42  Hexan  C6H14  0.5  0.827093"}, {"", "NPage", "0.000211975  m³/mol"},
+    follow({{"", "", "42  Hexan  C6H14  0.5  0.827093"}, {"", "NPage", "0.00021275  m³/mol"},
         {"", "Down Down Down Down", "rosný bod"}, {"", "Up Up Up Up", "0.0520953"}, {"", "a", "0-izotermní"},
         {"", "Escape", "Zadání bylo zrušeno"}});
     // clang-format on
