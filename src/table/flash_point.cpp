@@ -31,9 +31,13 @@ FlashPoint::FlashPoint(const PreparedComponents& mixture, FlashKind kind) : mixt
     found_.kind = kind;
 }
 
-PropertyValue FlashPoint::valueOf(const Row& row, std::span<const double> fractions, double T) const {
+PropertyValue FlashPoint::value(const PointProperty& property, std::span<const double> fractions, double T) const {
     PropertyPoint point = of(fractions);
-    return valueAt(point, row.property, row.evaluation, T, P_, false);
+    return valueAt(point, property, T, P_, false);
+}
+
+Standing FlashPoint::standing(const PointProperty& property, std::span<const double> fractions, double T) const {
+    return value(property, fractions, T).standing;
 }
 
 Standing FlashPoint::run(double T, double P, std::span<const double> feed) {
@@ -49,8 +53,7 @@ Standing FlashPoint::run(double T, double P, std::span<const double> feed) {
         found_.outcome = FlashOutcome::None;
         found_.passes = 0;
         // The likeliest reason: an enthalpy that the feed has none of.
-        const Standing reason =
-            isAdiabatic() ? valueOf(rows_.vapourEnthalpy, found_.feed, T).standing : Standing::Failed;
+        const Standing reason = isAdiabatic() ? standing(rows_.vapourEnthalpy, found_.feed, T) : Standing::Failed;
         return PropertyValue{reason}.isComputed() ? Standing::Failed : reason;
     }
 }
@@ -68,8 +71,8 @@ void FlashPoint::begin(double T, double P, std::span<const double> feed) {
 }
 
 Standing FlashPoint::compute() {
-    const PropertyValue bubble = valueOf(rows_.bubblePoint, found_.feed, T0_);
-    const PropertyValue dew = valueOf(rows_.dewPoint, found_.feed, T0_);
+    const PropertyValue bubble = value(rows_.bubblePoint, found_.feed, T0_);
+    const PropertyValue dew = value(rows_.dewPoint, found_.feed, T0_);
     found_.bubblePoint = orNone(bubble);
     found_.dewPoint = orNone(dew);
     found_.bubbleOutcome = outcomeOf(bubble);
@@ -96,7 +99,7 @@ bool FlashPoint::isAllVapour(const PropertyValue& dew) const {
 }
 
 Standing FlashPoint::vapourVerdict(const PropertyValue& dew) const {
-    return tells(dew) ? dew.standing : valueOf(rows_.vapourPressure, found_.feed, T0_).standing;
+    return tells(dew) ? dew.standing : standing(rows_.vapourPressure, found_.feed, T0_);
 }
 
 Standing FlashPoint::finishTrivially(FlashOutcome outcome, double V, Standing verdict) {
@@ -121,11 +124,11 @@ Standing FlashPoint::iterate(double start) {
     std::ranges::copy(solution_.y, found_.vapour.begin());
     dropUnknownEquilibriums();
     if (!solution_.converged) return Standing::Diverged;
-    const Standing ofPressures = valueOf(rows_.vapourPressure, found_.feed, found_.temperature).standing;
+    const Standing ofPressures = standing(rows_.vapourPressure, found_.feed, found_.temperature);
     if (!isAdiabatic()) return ofPressures;
-    return std::max({ofPressures, valueOf(rows_.liquidEnthalpy, found_.feed, T0_).standing,
-                     valueOf(rows_.liquidEnthalpy, found_.liquid, found_.temperature).standing,
-                     valueOf(rows_.vapourEnthalpy, found_.vapour, found_.temperature).standing});
+    return std::max({ofPressures, standing(rows_.liquidEnthalpy, found_.feed, T0_),
+                     standing(rows_.liquidEnthalpy, found_.liquid, found_.temperature),
+                     standing(rows_.vapourEnthalpy, found_.vapour, found_.temperature)});
 }
 
 void FlashPoint::solve(double start) {

@@ -1,9 +1,7 @@
 // One flash of a prepared mixture over plain numbers: what the table computes where the object has its method.
 #pragma once
 
-#include <cstddef>
 #include <span>
-#include <string_view>
 #include <vector>
 
 #include "properties/property_point.h"
@@ -24,20 +22,18 @@ class FlashPoint {
     const FlashRecord& found() const { return found_; }
 
   private:
-    struct Row {
-        const MixtureProperty& property;
-        std::size_t evaluation;
-
-        explicit Row(std::string_view code)
-            : property(*findMixtureProperty(code)), evaluation(evaluationIndex(property)) {}
-    };
     struct Rows {
-        Row bubblePoint{"TBV"}, dewPoint{"TRB"}, vapourPressure{"TENS"}, liquidEnthalpy{"HL"}, vapourEnthalpy{"RHG"};
+        PointProperty bubblePoint{*findMixtureProperty("TBV")};
+        PointProperty dewPoint{*findMixtureProperty("TRB")};
+        PointProperty vapourPressure{*findMixtureProperty("TENS")};
+        PointProperty liquidEnthalpy{*findMixtureProperty("HL")};
+        PointProperty vapourEnthalpy{*findMixtureProperty("RHG")};
     };
 
     bool isAdiabatic() const { return found_.kind == FlashKind::Adiabatic; }
     PropertyPoint of(std::span<const double> fractions) const { return {mixture_, fractions}; }
-    PropertyValue valueOf(const Row& row, std::span<const double> fractions, double T) const;
+    PropertyValue value(const PointProperty& property, std::span<const double> fractions, double T) const;
+    Standing standing(const PointProperty& property, std::span<const double> fractions, double T) const;
 
     void begin(double T, double P, std::span<const double> feed);
     Standing compute();
