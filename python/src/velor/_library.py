@@ -1,0 +1,210 @@
+"""The C library: where it lies, what its functions take, and its life from the first use to :func:`close`."""
+
+from __future__ import annotations
+
+import os
+import sys
+import weakref
+from ctypes import byref, c_double, c_int, c_void_p, sizeof
+from pathlib import Path
+from typing import Any, Callable, Dict, Optional, Sequence, Tuple
+
+import numpy as np
+from numpy.typing import NDArray
+
+from . import _errors
+from ._declarations import (
+    NO_MEMORY,
+    RUN_TIME_ERROR,
+    UNKNOWN,
+    WRONG_USE,
+    CCompositions,
+    CError,
+    CSeries,
+    CSettings,
+    load,
+    sized,
+    text,
+)
+
+FOLDER = Path(__file__).resolve().parent
+LIBRARY_PATH = FOLDER / ("velor.dll" if sys.platform == "win32" else "libvelor.so")
+DATABASE_PATH = FOLDER / "VELOR.DRC"
+
+Values = NDArray[np.float64]
+Codes = NDArray[np.intc]
+
+
+class Handle:
+    """What the library made, given back when nobody uses it any more; a call that is under way does."""
+
+    def __init__(self, pointer: c_void_p, free: Callable[[c_void_p], None]) -> None:
+        self.pointer = pointer
+        weakref.finalize(self, free, pointer).atexit = False
+
+
+class Fractions:
+    """The compositions of all points as the library reads them; keeps the array alive."""
+
+    def __init__(self, fractions: Values, by_mass: bool, normalised: bool) -> None:
+        """fractions: of shape (components) or (points, components), with any strides that are not negative."""
+        if min(fractions.strides, default=0) < 0 or any(stride % sizeof(c_double) for stride in fractions.strides):
+            fractions = np.ascontiguousarray(fractions)
+        strides = [stride // sizeof(c_double) for stride in fractions.strides]
+        last = sum((length - 1) * stride for length, stride in zip(fractions.shape, strides))
+        points = strides[0] if fractions.ndim == 2 else 0
+        self._array = fractions
+        self.passed = CCompositions(
+            sizeof(CCompositions), fractions.ctypes.data, last + 1, strides[-1], points, by_mass, normalised
+        )
+
+
+class Library:
+    """The loaded library and the databases that it has open."""
+
+    def __init__(self, path: Path) -> None:
+        try:
+            self._dll = load(str(path))
+        except (OSError, AttributeError) as fault:
+            raise _errors.LibraryError(f"Knihovnu {path} nelze načíst: {fault}") from fault
+        self._databases: Dict[str, Handle] = {}
+
+    def call(self, name: str, *arguments: Any) -> Any:
+        """A function that cannot fail."""
+        return getattr(self._dll, name)(*arguments)
+
+    def _checked(self, name: str, *arguments: Any) -> None:
+        """A function whose last argument is the place for an error."""
+        error = sized(CError)
+        status = self.call(name, *arguments, byref(error))
+        if status == 0:
+            return
+        told = text(error.text)
+        if status == WRONG_USE:
+            raise _errors.UsageError(told, _errors.INVALID_CALL)
+        if status == NO_MEMORY:
+            raise _errors.NoMemoryError(told)
+        raise _errors.Error(told, error.number if status == RUN_TIME_ERROR else 0)
+
+    def version(self) -> str:
+        return text(self.call("velor_version"))
+
+    def database(self, path: str) -> Handle:
+        """The open database of that path; what is on the disk now is read at its first use."""
+        if path not in self._databases:
+            pointer = c_void_p()
+            try:
+                self._checked("velor_database_open", os.fsencode(path), byref(pointer))
+            except _errors.Error as error:
+                raise _errors.DatabaseError(f"Databázi {path} nelze načíst: {error.text}", error.number) from None
+            self._databases[path] = Handle(pointer, self._dll.velor_database_close)
+        return self._databases[path]
+
+    def find(self, database: Handle, wanted: str) -> Tuple[int, Sequence[int]]:
+        """How it was found, and the numbers of the substances."""
+        finding, count = c_int(), c_int()
+        encoded = wanted.encode("utf-8", "replace")
+        if b"\0" in encoded:
+            return UNKNOWN, ()
+        capacity = self.call("velor_database_count", database.pointer)
+        numbers = (c_int * capacity)()
+        self._checked(
+            "velor_database_find", database.pointer, encoded, byref(finding), numbers, capacity, byref(count)
+        )
+        return finding.value, numbers[: count.value]
+
+    def mixture(self, database: Handle, numbers: Sequence[int], soave: bool, clamped: bool) -> Handle:
+        settings = CSettings(sizeof(CSettings), soave, clamped)
+        pointer = c_void_p()
+        self._checked(
+            "velor_mixture_create",
+            database.pointer,
+            (c_int * len(numbers))(*numbers),
+            len(numbers),
+            byref(settings),
+            byref(pointer),
+        )
+        return Handle(pointer, self._dll.velor_mixture_free)
+
+    def evaluate(
+        self,
+        mixture: Handle,
+        property_index: int,
+        temperatures: Values,
+        pressures: Values,
+        fractions: Fractions,
+        points: int,
+        threads: int,
+    ) -> Tuple[Values, Codes]:
+        """Values and verdicts; temperatures and pressures hold one number or one a point, without gaps."""
+        values, codes = np.empty(points), np.empty(points, np.intc)
+        self._checked(
+            "velor_evaluate",
+            mixture.pointer,
+            property_index,
+            _series(temperatures),
+            _series(pressures),
+            byref(fractions.passed),
+            points,
+            values.ctypes.data,
+            codes.ctypes.data,
+            threads,
+        )
+        return values, codes
+
+    def evaluate_pure(
+        self, mixture: Handle, property_index: int, component: int, temperatures: Values, points: int, threads: int
+    ) -> Tuple[Values, Codes]:
+        """The same of a component, from 0."""
+        values, codes = np.empty(points), np.empty(points, np.intc)
+        self._checked(
+            "velor_evaluate_pure",
+            mixture.pointer,
+            property_index,
+            component,
+            _series(temperatures),
+            points,
+            values.ctypes.data,
+            codes.ctypes.data,
+            threads,
+        )
+        return values, codes
+
+
+def _series(values: Values) -> CSeries:
+    return CSeries(values.ctypes.data, values.size)
+
+
+# ---- Its life ----------------------------------------------------------------------------------------------------
+
+_current: Optional[Library] = None
+_is_closed = False
+
+
+def library() -> Library:
+    """The library, loaded at the first use."""
+    global _current
+    current = _current
+    if current is None:
+        if _is_closed:
+            raise _errors.ClosedError("Knihovna je zavřená; otevře ji velor.open().")
+        # Threads that come at once may each make one; all of them work, and the last stays.
+        current = _current = Library(LIBRARY_PATH)
+    return current
+
+
+def open() -> None:
+    """Open the library again after :func:`close`. Before that the first use opens it."""
+    global _is_closed
+    _is_closed = False
+
+
+def close() -> None:
+    """Let go of all databases and prepared mixtures.
+
+    What is computing ends as it should; whatever is asked for later raises :class:`ClosedError`. After :func:`open`
+    every mixture works again, with databases as they are on the disk then.
+    """
+    global _current, _is_closed
+    _is_closed = True
+    _current = None
