@@ -83,7 +83,7 @@ def bubble_point(mixture: Mixture, P: Any = ATMOSPHERE) -> SaturationPoint:
     >>> m = velor.Mixture(["benzen", "toluen"], mole=[0.5, 0.5])
     >>> point = m.bubble_point(101325)
     >>> round(point.T, 1), point.vapour.round(3)
-    (365.3, array([0.712, 0.288]))
+    (365.3, array([0.713, 0.287]))
     """
     edge = Edge()
     T, codes, liquid = _point(mixture, "TBV", edge.take(P, "Pa", "P"))

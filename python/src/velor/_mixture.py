@@ -137,7 +137,7 @@ class Mixture(MixtureProperties):
     827.5
     >>> m.ROLW([300, 320, 340]).round(1)
     array([827.5, 810. , 791.4])
-    >>> value, verdict = m.ROLW(500, with_verdict=True)
+    >>> value, verdict = m.ROLW(535, with_verdict=True)
     >>> verdict.word
     'extrapolováno'
     """

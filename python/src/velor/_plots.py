@@ -2,7 +2,7 @@
 
 from __future__ import annotations
 
-from typing import TYPE_CHECKING, Any, Iterable, Iterator, List, Optional, Tuple, Union
+from typing import TYPE_CHECKING, Any, Iterable, Iterator, List, Optional, Set, Tuple, Union
 
 import numpy as np
 
@@ -13,13 +13,13 @@ from ._equilibrium import ATMOSPHERE, Txy, txy
 from ._extras import needed
 from ._library import Codes, Values
 from ._tables import rows_of
+from ._verdicts import all_verdicts
 
 if TYPE_CHECKING:
     from ._mixture import Mixture
 
 UNITS = {"T": "K", "P": "Pa"}
 ABSCISSAE = {"T": "teplota T [K]", "P": "tlak P [Pa]"}
-DASHED = "čárkovaně mimo rozsah platnosti"
 
 
 def plot(
@@ -49,14 +49,16 @@ def plot(
     states, along = _states(T, P)
     axes = [ax] if ax is not None else _new_axes(len(panels))
     for panel, members in zip(axes, panels.values()):
+        careful: Set[int] = set()
         for row in members:
             for state_label, state in states if row.needs_pressure else states[:1]:
                 for composition_label, one in _compositions(mixture):
                     labels = [row.code if len(members) > 1 else "", state_label, composition_label]
-                    values, codes_found = np.broadcast_arrays(*one._values(row, **state), state[along])[:2]
-                    _draw(panel, state[along], values, codes_found, ", ".join(label for label in labels if label))
-        _finish(panel, _ordinate(members), ABSCISSAE[along] if panel is axes[-1] else "")
-    axes[0].set_title(" + ".join(mixture.names))
+                    values, found = np.broadcast_arrays(*one._values(row, **state), state[along])[:2]
+                    label = ", ".join(label for label in labels if label)
+                    careful |= _draw(panel, state[along], values, found, label)
+        _finish(panel, _ordinate(members), ABSCISSAE[along] if panel is axes[-1] else "", careful)
+    axes[0].set_title(_title(mixture))
     return axes[0] if len(axes) == 1 else np.array(axes)
 
 
@@ -80,11 +82,11 @@ def plot_txy(diagram: Union[Mixture, Txy], P: Any = ATMOSPHERE, *, points: int =
     """
     found = diagram if isinstance(diagram, Txy) else txy(diagram, P, points)
     panel = _new_axes(1)[0] if ax is None else ax
-    _draw(panel, found.x, found.bubble, found.bubble_verdicts.codes, "bod varu (kapalina x)")
-    _draw(panel, found.x, found.dew, found.dew_verdicts.codes, "rosný bod (pára y)")
+    careful = _draw(panel, found.x, found.bubble, found.bubble_verdicts.codes, "bod varu (kapalina x)")
+    careful |= _draw(panel, found.x, found.dew, found.dew_verdicts.codes, "rosný bod (pára y)")
     panel.set_xlim(0, 1)
     panel.set_title(f"{' – '.join(found.names)} při {found.P:g} Pa (ideální směs)")
-    _finish(panel, ABSCISSAE["T"], f"molový zlomek x, y – {found.names[0]}")
+    _finish(panel, ABSCISSAE["T"], f"molový zlomek x, y – {found.names[0]}", careful)
     return panel
 
 
@@ -120,8 +122,9 @@ def _new_axes(count: int) -> List[Any]:
     return list(axes[:, 0])
 
 
-def _draw(panel: Any, over: Values, values: Values, codes: Codes, label: str) -> None:
-    """A curve: a segment is full where both of its ends are in range. A value between gaps is a dot."""
+def _draw(panel: Any, over: Values, values: Values, codes: Codes, label: str) -> Set[int]:
+    """A curve: a segment is full where both of its ends are in range, a value between gaps is a dot. Gives the verdicts of
+    what is dashed."""
     order = np.argsort(over, kind="stable")
     over, values, codes = over[order], values[order], codes[order]
     in_range = codes == 0
@@ -132,10 +135,18 @@ def _draw(panel: Any, over: Values, values: Values, codes: Codes, label: str) ->
     reaches[:-1] |= ~in_range[1:]
     reaches[1:] |= ~in_range[:-1]
     if not in_range.all():
-        panel.plot(over, np.where(reaches, values, np.nan), linestyle="--", color=line.get_color(), label="_dashed_")
+        panel.plot(over, np.where(reaches, values, np.nan), linestyle="--", color=line.get_color(), label="_nolegend_")
     is_there = np.isfinite(values)
     alone = is_there & ~np.append(is_there[1:], False) & ~np.insert(is_there[:-1], 0, False)
     panel.plot(over[alone], values[alone], ".", color=line.get_color(), label="_nolegend_")
+    return set(codes[np.isfinite(values) & ~in_range].tolist())
+
+
+def _title(mixture: Mixture) -> str:
+    names = " + ".join(mixture.names)
+    if mixture.shape or len(mixture.names) == 1:
+        return names
+    return f"{names} (x = {'; '.join(f'{fraction:.3g}' for fraction in mixture.mole)})"
 
 
 def _ordinate(members: List[Property]) -> str:
@@ -144,14 +155,15 @@ def _ordinate(members: List[Property]) -> str:
     return ", ".join(row.symbol for row in members) + (f" [{members[0].unit}]" if members[0].unit else "")
 
 
-def _finish(panel: Any, ordinate: str, abscissa: str) -> None:
+def _finish(panel: Any, ordinate: str, abscissa: str, careful: Set[int]) -> None:
+    """careful: the verdicts of what is dashed."""
     panel.set_ylabel(ordinate)
     panel.set_xlabel(abscissa)
     panel.grid(True, alpha=0.3)
     handles, labels = panel.get_legend_handles_labels()
-    if any(line.get_label() == "_dashed_" for line in panel.get_lines()):
+    if careful:
         lines = needed("matplotlib.lines", "plots")
         handles.append(lines.Line2D([], [], color="grey", linestyle="--"))
-        labels.append(DASHED)
+        labels.append("čárkovaně: " + ", ".join(all_verdicts()[number].word for number in sorted(careful)))
     if handles:
         panel.legend(handles, labels, fontsize="small")

@@ -91,7 +91,7 @@ class Database:
     >>> [substance.name for substance in velor.substances.search("xylen")][:3]
     ['o-Xylen', 'm-Xylen', 'p-Xylen']
     >>> round(velor.substances["64-17-5"].constants["Tkr"], 1)
-    514.0
+    513.9
     """
 
     def __init__(self, path: Optional[Union[str, os.PathLike[str]]] = None) -> None:
