@@ -1,5 +1,5 @@
 #!/usr/bin/env python3
-"""Makes the wheel velor-*.whl of the package's sources, the library and the database. Needs no compiler and no network."""
+"""Makes the wheel velor-*.whl of the package's sources, the library and the database, without compiler and network."""
 
 import argparse
 import os
@@ -49,7 +49,7 @@ def staged(folder, library, catalogue, data, version):
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--library", type=Path, required=True, help="what the wheel carries")
-    parser.add_argument("--catalogue", type=Path, required=True, help="a library that runs here, to read the catalogue of")
+    parser.add_argument("--catalogue", type=Path, required=True, help="a library that runs here, for its catalogue")
     parser.add_argument("--data", type=Path, required=True, help="the folder of VELOR.DRC")
     parser.add_argument("--version", required=True)
     parser.add_argument("--work", type=Path, required=True, help="a folder to stage in; it is emptied")

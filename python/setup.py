@@ -1,5 +1,5 @@
-"""The wheel's tag: any CPython 3, but one platform, because the library is inside. The platform stands in setup.cfg, where
-make_wheel.py wrote it."""
+"""The wheel's tag: any CPython 3, but one platform, because the library is inside. The platform stands in setup.cfg,
+where make_wheel.py wrote it."""
 
 from setuptools import Distribution, setup
 

@@ -1,5 +1,5 @@
-"""Writes the methods of mixtures and of their components from the library's catalogue, so that help, completion and type
-checkers know every property with its unit and rule."""
+"""Writes the methods of mixtures and of their components from the library's catalogue, so that help, completion and
+type checkers know every property with its unit and rule."""
 
 import ctypes
 import sys

@@ -41,7 +41,8 @@ def test_values_are_those_of_the_command(mixture, code):
 
 def test_help_tells_unit_and_rule():
     for row in velor.properties.values():
-        assert row.unit in getattr(velor.Mixture, row.code).__doc__ and row.rule in getattr(velor.Mixture, row.code).__doc__
+        told = getattr(velor.Mixture, row.code).__doc__
+        assert row.unit in told and row.rule in told
 
 
 def test_shapes_broadcast(mixture):
@@ -115,7 +116,8 @@ def test_equilibrium_meets_its_law(mixture):
         partial = [x * p(bubble.T) for x, p in zip(bubble.liquid, vapour_pressures)]
         assert sum(partial) == pytest.approx(P, rel=1e-6)
         np.testing.assert_allclose(bubble.vapour, np.array(partial) / P, rtol=1e-6)
-        np.testing.assert_allclose(dew.liquid, [y * P / p(dew.T) for y, p in zip(dew.vapour, vapour_pressures)], rtol=1e-6)
+        liquid = [y * P / p(dew.T) for y, p in zip(dew.vapour, vapour_pressures)]
+        np.testing.assert_allclose(dew.liquid, liquid, rtol=1e-6)
     moist = velor.Mixture(["voda", "dusík"], mole=[0.1, 0.9]).dew_point()
     assert moist.verdict.word == "inertní složka" and moist.liquid.tolist() == [1, 0]
     diagram = mixture.txy(points=5)

@@ -37,7 +37,7 @@ KNOWN: List[Known] = [
     Known("voda: viskozita kapaliny při 300 K", lambda: _one("voda").ETAL(300), 8.54e-4, "Pa·s", 0.03),
     Known("voda: povrchové napětí při 300 K", lambda: _one("voda").SIGMA(300), 0.0717, "N/m", 0.02),
     Known("ethanol: bod varu při 101325 Pa", lambda: _one("ethanol").TBV(101325), 351.4, "K", 3e-3),
-    Known("methan: hustota plynu při 150 K a 1.04 MPa", lambda: _one("methan").RROGW(150, 1.04e6), 16.33, "kg/m³", 0.03),
+    Known("methan: hustota plynu, 150 K, 1.04 MPa", lambda: _one("methan").RROGW(150, 1.04e6), 16.33, "kg/m³", 0.03),
     Known("dusík: viskozita plynu při 300 K", lambda: _one("dusík").ETAG(300), 1.79e-5, "Pa·s", 0.03),
     Known("benzen: výparné teplo při 353.2 K", lambda: _one("benzen").DHV(353.2), 30720.0, "J/mol", 0.03),
 ]
@@ -59,7 +59,8 @@ def _installation() -> None:
 def _is_met(known: Known) -> bool:
     value = known.compute()
     is_met = bool(abs(value - known.published) <= known.within * known.published)
-    print(f"  {'v pořádku' if is_met else 'NESOUHLASÍ':11}{known.what}: {value:.6g} {known.unit} (má být {known.published:g})")
+    told = "v pořádku" if is_met else "NESOUHLASÍ"
+    print(f"  {told:11}{known.what}: {value:.6g} {known.unit} (má být {known.published:g})")
     return is_met
 
 

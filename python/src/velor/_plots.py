@@ -1,4 +1,4 @@
-"""Pictures with matplotlib: full lines where every correlation is valid, dashed where values are to be read with care."""
+"""Pictures with matplotlib: full lines where every correlation is valid, dashed where values want care."""
 
 from __future__ import annotations
 
@@ -32,15 +32,16 @@ def plot(
     codes : str or sequence of str
         Properties by their codes. Those of one unit share axes, others stand below each other.
     T, P : array_like or quantity
-        Temperatures [K] and pressures [Pa]. The longer of the two is the abscissa; each number of the other has a curve.
+        Temperatures [K] and pressures [Pa]. The longer of the two is the abscissa; each number of the other has a
+        curve.
     ax : matplotlib.axes.Axes, optional
         Axes to draw into; for properties of one unit.
 
     Returns
     -------
     matplotlib.axes.Axes or ndarray of them
-        Full lines are in the range of all correlations, dashed ones are not; lines are broken where there is no value. A
-        mixture of several compositions has a curve for each.
+        Full lines are in the range of all correlations, dashed ones are not; lines are broken where there is no value.
+        A mixture of several compositions has a curve for each.
     """
     rows = rows_of(codes)
     panels = {row.unit: [other for other in rows if other.unit == row.unit] for row in rows}
@@ -123,8 +124,8 @@ def _new_axes(count: int) -> List[Any]:
 
 
 def _draw(panel: Any, over: Values, values: Values, codes: Codes, label: str) -> Set[int]:
-    """A curve: a segment is full where both of its ends are in range, a value between gaps is a dot. Gives the verdicts of
-    what is dashed."""
+    """A curve: a segment is full where both of its ends are in range, a value between gaps is a dot. Gives the verdicts
+    of what is dashed."""
     order = np.argsort(over, kind="stable")
     over, values, codes = over[order], values[order], codes[order]
     in_range = codes == 0

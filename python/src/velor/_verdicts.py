@@ -101,7 +101,8 @@ class Verdicts:
     def counts(self) -> Dict[Verdict, int]:
         """How often each verdict occurs, those that weigh more first."""
         numbers = np.bincount(self.codes.ravel(), minlength=len(all_verdicts()))
-        return {verdict: int(numbers[verdict.number]) for verdict in reversed(all_verdicts()) if numbers[verdict.number]}
+        found = [verdict for verdict in reversed(all_verdicts()) if numbers[verdict.number]]
+        return {verdict: int(numbers[verdict.number]) for verdict in found}
 
     def __len__(self) -> int:
         return len(self.codes)
