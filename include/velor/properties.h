@@ -14,7 +14,6 @@
 namespace velor {
 
 class Smes;
-class PropertyPoint;
 
 // ---- Pure substances ----------------------------------------------------------------------------
 
@@ -68,8 +67,6 @@ struct MixtureProperty {
     using Method = Variant (*)(Smes& smes, const Variant& T, const Variant& P, const Variant& X);
     // Of an iteration: how the object's last one ended.
     using Outcome = SaturationOutcome (Smes::*)() const;
-    // The same over plain numbers, for many points; see table.h.
-    using Evaluation = double (PropertyPoint::*)();
 
     std::string_view code;  // upper case
     std::string_view caption;
@@ -79,7 +76,6 @@ struct MixtureProperty {
     std::string_view rule;      // whose mixing rule it is, with the year, or how it follows from others
     Correlations correlations;  // the pure properties that it is mixed of
     Method method;
-    Evaluation evaluate;  // null for a bubble or dew point, which the table seeks in a way of its own
     bool needsTemperature = false;
     bool needsPressure = false;
     Phase phase = Phase::Any;

@@ -30,15 +30,15 @@ void PreparedComponent::prepareGas(Attraction attraction) {
     const double one = 1.0;
     const CubicParameters pure = mixtureParameters(attraction, Tb, {&one, 1}, {&*cubic_, 1});
     const CubicState residual = residualState(Tb, kReferencePressure, gasVolume(Tb, kReferencePressure, pure).V, pure);
-    const double DHV = heatOfVaporisation(Tb);
+    const double DHV = valueAsBuilt(kDHV, Tb);
     gasReference_ = {DHV - residual.enthalpy, checked::divide(DHV, Tb) - residual.entropy,
                      HeatCapacityIntegral(heatCapacityOf(record_, isClamped_), Tb)};
 }
 
-double PreparedComponent::heatOfVaporisation(double T) const {
-    if (!correlation(kDHV).hasEquation()) return kNoValue;
+double PreparedComponent::valueAsBuilt(int k, const Temperature& T) const {
+    if (!correlation(k).hasEquation()) return kNoValue;
     try {
-        return correlation(kDHV).value(T, isClamped_);
+        return correlation(k).value(T, isClamped_);
     } catch (const RunTimeError&) {
         return kNoValue;
     }
@@ -49,7 +49,7 @@ PropertyValue PreparedComponent::pure(int k, const Temperature& T) const {
     if (!prepared.isGiven()) return {Standing::NotGiven};
     if (!prepared.hasEquation()) return {Standing::Failed};
     try {
-        return judged(prepared.value(T, isClamped_), record_, isClamped_, T, k);
+        return judged(prepared.value(T, isClamped_), prepared.standing(T, isClamped_));
     } catch (const RunTimeError&) {
         return {Standing::Failed};
     }

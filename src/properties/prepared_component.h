@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "properties/prepared_correlation.h"
+#include "properties/standings.h"
 #include "rules/equation_of_state.h"
 #include "rules/equations.h"
 #include "rules/ideal_gas.h"
@@ -34,6 +35,23 @@ class PreparedComponent {
 
     // Property k (1..10) at T with its verdict; see pureValue of verdict.h.
     PropertyValue pure(int k, const Temperature& T) const;
+    // The same of several points: NaN where there is no value, the standings only where there is one.
+    template <class Number>
+    Number pure(int k, const BasicTemperature<Number>& T, Standings<Number>& standings) const {
+        const PreparedCorrelation& prepared = correlation(k);
+        if (!prepared.isSilent()) return numbers::kNan;
+        if (!isAll(prepared.isInRange(T.kelvin()))) judgeEach(prepared, T.kelvin(), standings);
+        const Number y = prepared.value(T, isClamped_);
+        return select(y < 0.0, numbers::kNan, y);  // far outside its range: none of the ten is negative
+    }
+    // Whether the vapour pressure is neither extrapolated nor moved at T.
+    template <class Number>
+    auto isVapourPressureInRange(const Number& T) const {
+        return correlation(kTENS).isInRange(T);
+    }
+
+    // The number that the object goes on with: 1E-8 where there is no value, a negative one as it is.
+    double valueAsBuilt(int k, const Temperature& T) const;
 
     // What the real gas needs; none where it cannot be prepared.
     const std::optional<CubicComponent>& cubic() const { return cubic_; }
@@ -43,7 +61,13 @@ class PreparedComponent {
     static constexpr int kProperties = 10;
 
     const PreparedCorrelation& correlation(int k) const { return correlations_[static_cast<std::size_t>(k - 1)]; }
-    double heatOfVaporisation(double T) const;  // 1E-8 after an error, as FFce has it
+    template <class Number>
+    void judgeEach(const PreparedCorrelation& prepared, const Number& T, Standings<Number>& standings) const {
+        double each[Number::kCount];
+        T.store(each);
+        for (std::size_t lane = 0; lane < Number::kCount; ++lane)
+            standings.take(lane, prepared.standing(each[lane], isClamped_));
+    }
     void prepareGas(Attraction attraction);
 
     TLatka record_;

@@ -24,8 +24,7 @@ PreparedCorrelation::PreparedCorrelation(const TLatka& record, int number, int k
     isGiven_ = block.Priznak != 0;
     hasEquation_ = isEquationType(block.Typ);
     isSilent_ = isGiven_ && hasEquation_;
-    if (!hasEquation_) return;
-    equation_ = PreparedEquation(block.Typ, block.A);
+    if (hasEquation_) equation_ = PreparedEquation(block.Typ, block.A);
     isWaterDensity_ = k == kROLW && number == kWater;
     Tmin_ = block.Tmin;
     Tmax_ = block.Tmax;

@@ -7,7 +7,9 @@
 #include <limits>
 
 #include "object/state.h"
+#include "properties/pure_value.h"
 #include "rules/equations.h"
+#include "velor/verdict.h"
 
 namespace velor {
 
@@ -31,7 +33,42 @@ class PreparedCorrelation {
         return Tx == T && !isWaterDensity_ ? equation_(T) : valueAt(Tx);
     }
 
+    // Of several points; those without a value are NaN.
+    template <class Number>
+    Number value(const BasicTemperature<Number>& T, bool isClamped) const {
+        return isMoved(T.kelvin(), isClamped) ? valuesAt<Number>(workingTemperatures(T.kelvin(), isClamped))
+                                              : valuesAt(T);
+    }
+
+    // See standingAt.
+    Standing standing(double T, bool isClamped) const {
+        return standingAt(T, Tmin_, Tmax_, isClamped, T > highest_);
+    }
+    // Where it is InRange.
+    template <class Number>
+    auto isInRange(const Number& T) const {
+        return (T >= Tmin_) & (T <= Tmax_) & (T <= highest_);
+    }
+
   private:
+    template <class Number>
+    bool isMoved(const Number& T, bool isClamped) const {
+        return isAny(T > highest_) || (isClamped && isAny((T < Tmin_) | (T > Tmax_)));
+    }
+
+    template <class Number>
+    Number workingTemperatures(const Number& T, bool isClamped) const {
+        double each[Number::kCount];
+        T.store(each);
+        for (double& one : each) one = workingTemperature(one, isClamped);
+        return Number::load(each);
+    }
+
+    template <class Number>
+    Number valuesAt(const BasicTemperature<Number>& T) const {
+        return isWaterDensity_ ? waterDensity(T.kelvin()) : equation_(T);
+    }
+
     double workingTemperature(double T, bool isClamped) const {
         double Tx = T;
         // Above the critical point the liquid's correlations are evaluated just below it, on purpose.

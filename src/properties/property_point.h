@@ -1,5 +1,6 @@
-// One property of a mixture at one point, over plain numbers: what the table computes where the object has its methods.
-// Gathers the pure values of the components that are there, keeps their worst verdict and mixes by the same rules.
+// One property of a mixture at one point or at several side by side, over plain numbers: what the table computes where
+// the object has its methods. Gathers the pure values of the components that are there, keeps their worst verdict and
+// mixes by the same rules.
 #pragma once
 
 #include <array>
@@ -9,6 +10,8 @@
 #include <vector>
 
 #include "properties/prepared_component.h"
+#include "properties/stability.h"
+#include "properties/standings.h"
 #include "rules/gas.h"
 #include "rules/pseudocritical.h"
 #include "rules/temperature.h"
@@ -25,105 +28,152 @@ struct PreparedComponents {
     std::vector<PairFactor> pairs;  // of the gas's conductivity, by rows; none where a molar mass is missing
 };
 
-class PropertyPoint {
+// Of the composition alone, all points have the same. Number is a double or Lanes: then a point of which something is to
+// be told, or that goes another way than its neighbours, has no value here, but may have one alone.
+template <class Number>
+class BasicPropertyPoint {
   public:
     // Mole fractions, one a component; only components whose fraction is positive take part.
-    PropertyPoint(const PreparedComponents& mixture, std::span<const double> fractions);
+    BasicPropertyPoint(const PreparedComponents& mixture, std::span<const double> fractions);
 
-    // The property with its verdict at T kelvin and P pascals. The value is NaN where there is none. Whether a gas
-    // would condense takes as long as the value of many a property: it is looked at where somebody reads the verdict.
-    PropertyValue value(const MixtureProperty& property, double T, double P, bool isVerdictRead = true);
+    bool isEmpty() const { return count_ == 0; }
+
+    // The state of the properties below: T kelvin and P pascals.
+    BasicPropertyPoint& at(const Number& T, const Number& P);
+
+    // One of them with what it is mixed of; NaN where it has no value, see the standings. Errors as below.
+    Number value(const MixtureProperty& property, Number (BasicPropertyPoint::*evaluate)());
+
+    // How what was gathered stands to its correlations.
+    const Standings<Number>& standings() const { return standings_; }
+
+    // sum(y P / Ps) of what can condense, see Raoult; NaN where a vapour pressure is missing.
+    Number condensing() const;
 
     // ---- The properties, by the names of the object's methods; errors as there ----------------------------------
-    double VSM();
-    double ROLW();
-    double CPL();
-    double CPLW();
-    double ETAL();
-    double ALAL();
-    double DHV();
-    double DHVW();
-    double SIGMA();
-    double TENS();
-    double HL();
-    double HLW();
-    double SL();
-    double SLW();
-    double ObjRozL();
-    double PrL();
-    double ETAG();
-    double RETAG();
-    double CPG();
-    double CPGW();
-    double RCPG();
-    double RCPGW();
-    double ALAG();
-    double RALAG();
-    double ROGW();
-    double RROGW();
-    double RUG();
-    double RUGW();
-    double RHG();
-    double RHGW();
-    double RSG();
-    double RSGW();
-    double RCVG();
-    double RCVGW();
-    double Kapa();
-    double LnFug();
-    double JTkoef();
+    Number VSM();
+    Number TBV();
+    Number TRB();
+    Number ROLW();
+    Number CPL();
+    Number CPLW();
+    Number ETAL();
+    Number ALAL();
+    Number DHV();
+    Number DHVW();
+    Number SIGMA();
+    Number TENS();
+    Number HL();
+    Number HLW();
+    Number SL();
+    Number SLW();
+    Number ObjRozL();
+    Number PrL();
+    Number ETAG();
+    Number RETAG();
+    Number CPG();
+    Number CPGW();
+    Number RCPG();
+    Number RCPGW();
+    Number ALAG();
+    Number RALAG();
+    Number ROGW();
+    Number RROGW();
+    Number RUG();
+    Number RUGW();
+    Number RHG();
+    Number RHGW();
+    Number RSG();
+    Number RSGW();
+    Number RCVG();
+    Number RCVGW();
+    Number Kapa();
+    Number LnFug();
+    Number JTkoef();
 
   private:
-    using Values = std::array<double, kMostComponents>;
+    using At = BasicTemperature<Number>;
+    using Values = std::array<Number, kMostComponents>;
+    using Constants = std::array<double, kMostComponents>;
 
     // The real gas without its ideal part.
     struct DenseGas {
-        double p = 0;  // MPa
-        double V = 0;  // cm3/mol
-        CubicParameters parameters;
+        Number p;  // MPa
+        Number V;  // cm3/mol
+        BasicCubicParameters<Number> parameters;
     };
 
     const PreparedComponent& component(std::size_t i) const { return *present_[i]; }
     std::span<const double> x() const { return std::span(x_).first(count_); }
-    std::span<const double> of(const Values& values) const { return std::span(values).first(count_); }
+    std::span<const Number> of(const Values& values) const { return std::span(values).first(count_); }
 
-    void take(Standing standing);
+    template <class Constant>
+    Constants constants(Constant TLatka::*constant) const {
+        Constants values;
+        for (std::size_t i = 0; i < count_; ++i) values[i] = component(i).record().*constant;
+        return values;
+    }
+    std::span<const double> first(const Constants& values) const { return std::span(values).first(count_); }
+
+    Number pure(std::size_t i, Property k, const At& T, Standings<Number>& standings) const;
+    Number pure(std::size_t i, Property k, const At& T) const;  // its standing is nobody's concern
     void gather(const MixtureProperty& property);
+    void keep(Property k, std::size_t i, const Number& value);
     void gatherPure(Property k);
     void gatherReducedDensities();
     void gatherHeatOfVaporisation();
-    double reducedTemperature(double T) const;
-    bool isMetastableGas() const;
+    Number reducedTemperature(const Number& T) const;
 
-    double densityOf(const Values& pureDensities);
-    double perMass(double molar);
+    double molarMass() const;
+    Number densityOf(const Values& pureDensities);
+    Number perMass(const Number& molar);
     DenseGas denseGas() const;
-    CubicState residual(const DenseGas& gas) const;
-    double referenced(double GasReference::*constant,
-                      double (*integral)(const HeatCapacityIntegral&, const Temperature&)) const;
-    double enthalpy(const DenseGas& gas) const;
-    double heatCapacityV(const CubicState& residual);
-    double heatCapacityP(const CubicState& residual);
+    BasicCubicState<Number> residual(const DenseGas& gas) const;
+    template <class Integral>
+    Number referenced(double GasReference::*constant, const Integral& integral) const;
+    Number enthalpy(const DenseGas& gas) const;
+    Number heatCapacityV(const BasicCubicState<Number>& residual);
+    Number heatCapacityP(const BasicCubicState<Number>& residual);
     Pseudocritical pseudocritical() const;
-    double excess(double (*rule)(const Pseudocritical&, double));
+    Number reducedDensity(const Pseudocritical& mixture);
 
-    PropertyValue bubblePoint();
-    PropertyValue dewPoint();
-    PropertyValue saturationPoint(double T);
-    std::optional<Standing> missingVapourPressure() const;
-    bool hasVapourPressuresInRange(double T) const;
-    double boilingExcess(double T) const;
-    double condensingExcess(double T) const;
+    Number saturationPoint(const Number& T);
+    bool hasVapourPressures();
+    auto isCertain(const Number& T) const;
+    Number boilingExcess(const Number& T) const;
+    Number condensingExcess(const Number& T) const;
 
     const PreparedComponents& mixture_;
     std::array<const PreparedComponent*, kMostComponents> present_{};
     std::array<std::size_t, kMostComponents> index_{};  // of each in the whole mixture
-    Values x_{};
+    Constants x_{};
     std::size_t count_ = 0;
-    Temperature T_{0};
-    double P_ = 0;
-    Standing worst_ = Standing::InRange;
+    At T_{0.0};
+    Number P_ = 0.0;
+    Standings<Number> standings_;
+    Number absence_;  // 0, or NaN where something gathered has no value
     std::array<Values, kSIGMA + 1> values_;  // of each property gathered, by its number
 };
+
+template <class Number>
+using Evaluation = Number (BasicPropertyPoint<Number>::*)();
+
+extern template class BasicPropertyPoint<double>;
+using PropertyPoint = BasicPropertyPoint<double>;
+
+// Which of its properties the row of the catalogue is.
+std::size_t evaluationIndex(const MixtureProperty& property);
+
+// That property with its verdict at T kelvin and P pascals. The value is NaN where there is none. Whether a gas would
+// condense takes as long as the value of many a property: it is looked at where somebody reads the verdict.
+PropertyValue valueAt(PropertyPoint& point, const MixtureProperty& property, std::size_t evaluation, double T, double P,
+                      bool isVerdictRead);
+
+// The verdict on a value of such components.
+Standing concluded(const MixtureProperty& property, Standing worst, bool isMetastable);
+
+inline bool isOfGasAtPressure(const MixtureProperty& property) {
+    return property.phase == Phase::Gas && property.needsPressure;
+}
 
 }  // namespace velor

@@ -64,14 +64,10 @@ std::string substanceAndProperty(const State& state, int i, int k) {
 
 }  // namespace
 
-PropertyValue judged(double value, const TLatka& record, bool isClamped, double T, int k) {
+PropertyValue judged(double value, Standing standing) {
     if (value == kNoValue) return {Standing::BeyondReference};
     if (value < 0) return {Standing::Failed};  // an equation far outside its range: none of the ten is negative
-    const TKorelace& block = record.Korelace[static_cast<std::size_t>(k - 1)];
-    const bool isOutside = T < block.Tmin || T > block.Tmax;
-    if (isOutside && isClamped) return {Standing::AtBound, value};
-    if (isTakenBelowCritical(k, record.Tkr, T)) return {Standing::BelowCritical, value};
-    return {isOutside ? Standing::Extrapolated : Standing::InRange, value};
+    return {standing, value};
 }
 
 HeatCapacity heatCapacityOf(const TLatka& record, bool isClamped) {

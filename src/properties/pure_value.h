@@ -21,8 +21,22 @@ inline bool isTakenBelowCritical(int k, double Tkr, double T) {
     return k >= kETAL && Tkr > kLeastCriticalTemperature && T > Tkr;
 }
 
-// The verdict on property k (1..10) of a record that FFce evaluates to the value at T.
-PropertyValue judged(double value, const TLatka& record, bool isClamped, double T, int k);
+// How T stands to the range [Tmin, Tmax] of a correlation: InRange to BelowCritical.
+inline Standing standingAt(double T, double Tmin, double Tmax, bool isClamped, bool isBelowCritical) {
+    const bool isOutside = T < Tmin || T > Tmax;
+    if (isOutside && isClamped) return Standing::AtBound;
+    if (isBelowCritical) return Standing::BelowCritical;
+    return isOutside ? Standing::Extrapolated : Standing::InRange;
+}
+
+// The same of property k (1..10) of a record.
+inline Standing standingAt(double T, const TLatka& record, bool isClamped, int k) {
+    const TKorelace& block = record.Korelace[static_cast<std::size_t>(k - 1)];
+    return standingAt(T, block.Tmin, block.Tmax, isClamped, isTakenBelowCritical(k, record.Tkr, T));
+}
+
+// The verdict on a value that FFce gives, whose temperature stands so to the correlation's range.
+PropertyValue judged(double value, Standing standing);
 
 // The heat capacity of the ideal gas.
 HeatCapacity heatCapacityOf(const TLatka& record, bool isClamped);

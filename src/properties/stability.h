@@ -16,7 +16,8 @@ struct Raoult {
 
     // An iteration ends within 0.02 K of its solution: of the steepest vapour pressures that is some per cent.
     static constexpr double kTolerance = 0.03;
-    bool isMetastableGas() const { return condensing > 1.003; }  // T and P are given: only rounding is allowed for
+    static constexpr double kMostOfGas = 1.003;  // T and P are given: only rounding is allowed for
+    bool isMetastableGas() const { return condensing > kMostOfGas; }
 };
 
 // Of n components (from 0). fractionAt(i) may be 0; vapourPressure(i) gives a PropertyValue in pascals; isGas(i)

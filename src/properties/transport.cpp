@@ -14,7 +14,7 @@ namespace velor {
 namespace {
 
 using LowPressure = std::optional<double> (*)(State&, HostNumber, const Composition&);
-using Excess = double (*)(const Pseudocritical&, double);
+using Excess = double (*)(const Pseudocritical&, const double&);
 
 // No value where the real gas's density is missing: the low-pressure value alone would pass for an answer.
 std::optional<double> underPressure(State& state, HostNumber T, HostNumber P, const Composition& X,

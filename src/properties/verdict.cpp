@@ -17,7 +17,7 @@ PropertyValue pureValue(Smes& smes, double T, int slot, const PureProperty& prop
     if (!isEquationType(type)) return {Standing::Failed};  // the engine would say so in a box each time
     try {
         const double value = smes.FFce(T, slot, property.number).toDouble();
-        return judged(value, smes.record(slot), smes.MezeTeplot() > 0, T, property.number);
+        return judged(value, standingAt(T, smes.record(slot), smes.MezeTeplot() > 0, property.number));
     } catch (const RunTimeError&) {
         return {Standing::Failed};
     }

@@ -15,11 +15,13 @@ double sumOf(std::span<const double> x);
 void normalise(std::span<double> x);
 
 // sum(x y), the mole-fraction mean of pure values y, in their unit.
-inline double moleMean(std::span<const double> x, std::span<const double> y) {
-    double sum = 0.0;
+template <class Number>
+Number moleMean(std::span<const double> x, std::span<const Number> y) {
+    Number sum = 0.0;
     for (std::size_t i = 0; i < x.size(); ++i) sum += x[i] * y[i];
     return sum;
 }
+inline double moleMean(std::span<const double> x, std::span<const double> y) { return moleMean<double>(x, y); }
 
 // Parts by mass of mole fractions, x M, and by amount of mass fractions, w / M. Error 11: a molar mass of 0.
 void massParts(std::span<const double> x, std::span<const double> M, std::span<double> parts);

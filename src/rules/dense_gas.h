@@ -1,18 +1,47 @@
 // What pressure adds to the viscosity and the thermal conductivity of a gas, by the reduced density.
 #pragma once
 
+#include "rules/number.h"
 #include "rules/pseudocritical.h"
 
 namespace velor {
 
-// Dean and Stiel (1965): 0.000108 (e^(1.439 r) - e^(-1.111 r^1.858)) / (1000 xi),
-// xi = T^(1/6) / (sqrt(1000 M) (P/101324)^(2/3)). [Pa s] 101324 stands for the standard atmosphere, kept.
-// Errors: 5, 6, 11 pseudocritical values that are 0 or negative.
-double excessViscosity(const Pseudocritical& mixture, double reducedDensity);
+// T^(1/6) / (sqrt(1000 M) (P/101324)^(2/3)), and T^(1/6) sqrt(1000 M) / (P/101324)^(2/3) times Zc^5, of the
+// pseudocritical values; 101324 stands for the standard atmosphere, kept. Errors: 5, 6, 11 values that are 0 or
+// negative.
+double viscosityGroup(const Pseudocritical& mixture);
+double conductivityGroup(const Pseudocritical& mixture);
 
-// Stiel and Thodos (1964) in three ranges of the reduced density, constant above 2.8, divided by Gamma Zc^5,
-// Gamma = T^(1/6) sqrt(1000 M) / (P/101324)^(2/3). [W/(m K)] The constants are ours and differ from the published ones:
-// the result is about 4.6 times the published correlation's, as built. Errors as above.
-double excessConductivity(const Pseudocritical& mixture, double reducedDensity);
+// Dean and Stiel (1965): 0.000108 (e^(1.439 r) - e^(-1.111 r^1.858)) / (1000 xi), xi the group above. [Pa s]
+template <class Number>
+Number excessViscosity(const Pseudocritical& mixture, const Number& reducedDensity) {
+    using namespace numbers;
+    using checked::power;
+    const Number& r = reducedDensity;
+    const Number term = 0.000108 * (exponential(1.439 * r) - exponential(-1.111 * power(r, 1.858)));
+    return divide(term, 1000.0 * viscosityGroup(mixture));
+}
+
+// Excess conductivity times Gamma Zc^5, in one of four ranges; lanes of several ranges have no value together.
+template <class Number>
+Number conductivityTerm(const Number& r) {
+    using namespace numbers;
+    if (isAll(r <= 0.5)) return 0.0002697 * (exponential(0.535 * r) - 1.0);
+    // 1, where 1.069 was published; required so
+    if (isAll(r > 0.5) && isAll(r <= 2.0)) return 0.0002524 * (exponential(0.67 * r) - 1.0);
+    if (isAll(r > 2.0) && isAll(r < 2.8)) return 5.733e-05 * (exponential(1.155 * r) + 2.016);
+    if (isAll(r >= 2.8)) return 5.733e-05 * (checked::exponential(3.234) + 2.016);  // the value at 2.8, held
+    return kNan;
+}
+
+// Stiel and Thodos (1964) in three ranges of the reduced density, constant above 2.8, divided by Gamma Zc^5, the group
+// above. [W/(m K)] The constants are ours and differ from the published ones: the result is about 4.6 times the
+// published correlation's, as built.
+template <class Number>
+Number excessConductivity(const Pseudocritical& mixture, const Number& reducedDensity) {
+    using namespace numbers;
+    const double group = conductivityGroup(mixture);
+    return divide(conductivityTerm(reducedDensity), group);
+}
 
 }  // namespace velor

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "rules/composition.h"
@@ -71,10 +72,13 @@ FlashStep adiabaticStep(const MaterialBalance& material, const EnergyBalance& en
 // the iteration ends: converged, or after 30 passes, whatever the last of them found.
 bool advance(FlashSolution& solution, const FlashStep& step, double& relaxation);
 
+// The room of an earlier solution is used again.
 template <class Pass>
-FlashSolution iterateFlash(double T, std::size_t components, const Pass& pass) {
+FlashSolution iterateFlash(double T, std::size_t components, FlashSolution room, const Pass& pass) {
     FlashSolution solution;
     solution.T = T;
+    solution.x = std::move(room.x);
+    solution.y = std::move(room.y);
     solution.x.resize(components);
     solution.y.resize(components);
     for (double relaxation = 0.1;;)
@@ -83,8 +87,9 @@ FlashSolution iterateFlash(double T, std::size_t components, const Pass& pass) {
 
 // At T kelvin. equilibrium(T) gives the K-values, asked for in each pass. Errors: those of a pass.
 template <class EquilibriumAt>
-FlashSolution isothermalFlash(double T, std::span<const double> z, const EquilibriumAt& equilibrium) {
-    return iterateFlash(T, z.size(), [&](FlashSolution& now) {
+FlashSolution isothermalFlash(double T, std::span<const double> z, const EquilibriumAt& equilibrium,
+                              FlashSolution room = {}) {
+    return iterateFlash(T, z.size(), std::move(room), [&](FlashSolution& now) {
         const MaterialBalance material = splitFeed(now.V, z, equilibrium(now.T), now.x, now.y);
         now.materialResidual = checked::finite(material.residual);
         return isothermalStep(material);
@@ -96,8 +101,9 @@ FlashSolution isothermalFlash(double T, std::span<const double> z, const Equilib
 // then at the warmer temperature. Errors: those of a pass, 11 a phase whose fractions sum to 0.
 template <class EquilibriumAt, class LiquidEnthalpy, class VapourEnthalpy>
 FlashSolution adiabaticFlash(double H0, double T, std::span<const double> z, const EquilibriumAt& equilibrium,
-                             const LiquidEnthalpy& liquidEnthalpy, const VapourEnthalpy& vapourEnthalpy) {
-    return iterateFlash(T, z.size(), [&](FlashSolution& now) {
+                             const LiquidEnthalpy& liquidEnthalpy, const VapourEnthalpy& vapourEnthalpy,
+                             FlashSolution room = {}) {
+    return iterateFlash(T, z.size(), std::move(room), [&](FlashSolution& now) {
         const MaterialBalance material = splitFeed(now.V, z, equilibrium(now.T), now.x, now.y);
         now.materialResidual = checked::finite(material.residual);
         normalise(now.x);

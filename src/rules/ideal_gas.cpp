@@ -77,18 +77,6 @@ HeatCapacityIntegral::HeatCapacityIntegral(const HeatCapacity& heatCapacity, dou
     entropyAt0_ = polynomialEntropy(start_, lnStart) + atStart_ * (lnT0_ - lnStart);
 }
 
-double HeatCapacityIntegral::polynomialEnthalpy(double T) const {
-    double sum = byEnthalpy_[5];
-    for (std::size_t j = 5; j-- > 0;) sum = sum * T + byEnthalpy_[j];
-    return sum * T;
-}
-
-double HeatCapacityIntegral::polynomialEntropy(double T, double lnT) const {
-    double sum = byEntropy_[5];
-    for (std::size_t j = 5; j-- > 1;) sum = sum * T + byEntropy_[j];
-    return sum * T + byEntropy_[0] * lnT;
-}
-
 double HeatCapacityIntegral::enthalpy(double T) const {
     const double end = heatCapacity_.workingTemperature(T);
     if (polynomial_ && end == T) return polynomialEnthalpy(T) - enthalpyAt0_;

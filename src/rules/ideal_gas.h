@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 
 #include "rules/equations.h"
 
@@ -29,10 +30,34 @@ class HeatCapacityIntegral {
 
     double enthalpy(double T) const;             // of Cp dT, J/mol
     double entropy(double T, double lnT) const;  // of Cp/T dT, J/(mol K); lnT is the logarithm of T
+    // The same of several points; NaN unless all lie where a polynomial is exact.
+    template <class Number>
+    Number enthalpies(const Number& T) const {
+        return isExact(T) ? polynomialEnthalpy(T) - enthalpyAt0_ : Number(numbers::kNan);
+    }
+    template <class Number>
+    Number entropies(const Number& T, const Number& lnT) const {
+        return isExact(T) ? polynomialEntropy(T, lnT) - entropyAt0_ : Number(numbers::kNan);
+    }
 
   private:
-    double polynomialEnthalpy(double T) const;
-    double polynomialEntropy(double T, double lnT) const;
+    template <class Number>
+    Number polynomialEnthalpy(const Number& T) const {
+        Number sum = byEnthalpy_[5];
+        for (std::size_t j = 5; j-- > 0;) sum = sum * T + byEnthalpy_[j];
+        return sum * T;
+    }
+    template <class Number>
+    Number polynomialEntropy(const Number& T, const Number& lnT) const {
+        Number sum = byEntropy_[5];
+        for (std::size_t j = 5; j-- > 1;) sum = sum * T + byEntropy_[j];
+        return sum * T + byEntropy_[0] * lnT;
+    }
+    template <class Number>
+    bool isExact(const Number& T) const {
+        using namespace numbers;
+        return polynomial_ && !(heatCapacity_.clamped && isAny((T < heatCapacity_.Tmin) | (T > heatCapacity_.Tmax)));
+    }
 
     HeatCapacity heatCapacity_;
     bool polynomial_ = false;

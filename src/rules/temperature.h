@@ -6,25 +6,30 @@
 namespace velor {
 
 // Its logarithm is computed when it is first asked for and then shared: most equations need it, and for a mixture they
-// need it once a component.
-class Temperature {
+// need it once a component. Number is a double or the Lanes of several points.
+template <class Number>
+class BasicTemperature {
   public:
-    Temperature(double kelvin) : kelvin_(kelvin) {}
-    operator double() const { return kelvin_; }
+    BasicTemperature(const Number& kelvin) : kelvin_(kelvin) {}
+    operator const Number&() const { return kelvin_; }
+    const Number& kelvin() const { return kelvin_; }
 
     // Error 5: not above 0 K.
-    double logarithm() const {
+    const Number& logarithm() const {
         if (!known_) {
-            logarithm_ = checked::naturalLogarithm(kelvin_);
+            using checked::naturalLogarithm;
+            logarithm_ = naturalLogarithm(kelvin_);
             known_ = true;
         }
         return logarithm_;
     }
 
   private:
-    double kelvin_;
-    mutable double logarithm_ = 0.0;
+    Number kelvin_;
+    mutable Number logarithm_;
     mutable bool known_ = false;
 };
+
+using Temperature = BasicTemperature<double>;
 
 }  // namespace velor

@@ -4,21 +4,18 @@
 #include <array>
 #include <cmath>
 #include <limits>
-#include <thread>
 #include <vector>
 
 #include "properties/property_point.h"
 #include "records/record_file.h"
-#include "rules/composition.h"
-#include "runtime/checked.h"
+#include "table/lanes.h"
+#include "table/points.h"
 
 namespace velor {
 
 namespace {
 
 constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
-
-[[noreturn]] void refuse() { checked::raise(RunTimeError::kSubscript); }
 
 // ---- Preparing -------------------------------------------------------------------------------------------------
 
@@ -57,80 +54,10 @@ std::vector<TLatka> recordsOf(const std::string& databasePath, std::span<const i
 
 // ---- Points ----------------------------------------------------------------------------------------------------
 
-// One number for all points or one each.
-class Series {
-  public:
-    Series(std::span<const double> values, std::size_t points) : values_(values), step_(values.size() == 1 ? 0 : 1) {
-        if (values.size() != 1 && values.size() != points) refuse();
-    }
-    double operator[](std::size_t point) const { return values_[point * step_]; }
-
-  private:
-    std::span<const double> values_;
-    std::size_t step_;
-};
-
 std::size_t numberOfPoints(std::span<double> values, std::span<Standing> verdicts) {
     if (!values.empty() && !verdicts.empty() && values.size() != verdicts.size()) refuse();
     return std::max(values.size(), verdicts.size());
 }
-
-// Where the last of so many lies, told without multiplying what a caller made up.
-std::size_t lastOffset(std::size_t count, std::ptrdiff_t stride, std::size_t most) {
-    if (count <= 1 || stride == 0) return 0;
-    if (stride < 0 || static_cast<std::size_t>(stride) > most / (count - 1)) refuse();
-    return (count - 1) * static_cast<std::size_t>(stride);
-}
-
-void requireInside(const Compositions& X, std::size_t components, std::size_t points) {
-    if (X.values.empty()) refuse();
-    const std::size_t most = X.values.size() - 1;
-    if (lastOffset(components, X.componentStride, most) + lastOffset(points, X.pointStride, most) > most) refuse();
-}
-
-// The mole fractions of a point; false where they are none.
-class FractionReader {
-  public:
-    FractionReader(const PreparedComponents& mixture, const Compositions& X)
-        : X_(X), count_(mixture.components.size()) {
-        for (std::size_t i = 0; i < count_; ++i) molarMasses_[i] = mixture.components[i].record().Mv;
-    }
-
-    bool read(std::size_t point, std::array<double, kMostComponents>& x) const {
-        double sum = 0;
-        for (std::size_t i = 0; i < count_; ++i) {
-            x[i] = X_.values[static_cast<std::size_t>(static_cast<std::ptrdiff_t>(i) * X_.componentStride +
-                                                      static_cast<std::ptrdiff_t>(point) * X_.pointStride)];
-            if (!(x[i] >= 0)) return false;
-            sum += x[i];
-        }
-        const auto fractions = std::span(x).first(count_);
-        if (X_.isNormalised && sum > 0 && std::isfinite(sum))
-            for (double& fraction : fractions) fraction /= sum;
-        else if (!(std::abs(1.0 - sum) <= kFractionTolerance))
-            return false;
-        return X_.kind == FractionKind::Mole || toMoles(fractions);
-    }
-
-  private:
-    bool toMoles(std::span<double> fractions) const {
-        const std::array<double, kMostComponents> masses = [&] {
-            std::array<double, kMostComponents> copy{};
-            std::ranges::copy(fractions, copy.begin());
-            return copy;
-        }();
-        try {
-            moleFractions(std::span(masses).first(count_), std::span(molarMasses_).first(count_), fractions);
-            return true;
-        } catch (const RunTimeError&) {
-            return false;
-        }
-    }
-
-    const Compositions& X_;
-    std::size_t count_;
-    std::array<double, kMostComponents> molarMasses_{};
-};
 
 struct Results {
     std::span<double> values;
@@ -142,18 +69,23 @@ struct Results {
     }
 };
 
-// Divides the points evenly among the threads; each takes a run of neighbours.
-template <class Work>
-void divide(std::size_t points, int threads, const Work& work) {
-    if (points == 0) return;
-    constexpr std::size_t kMostThreads = 256;
-    const std::size_t wanted = std::min(static_cast<std::size_t>(std::max(threads, 1)), kMostThreads);
-    const std::size_t parts = std::min(wanted, points);
-    std::vector<std::jthread> others;
-    for (std::size_t part = 1; part < parts; ++part)
-        others.emplace_back(
-            [&work, from = points * part / parts, to = points * (part + 1) / parts] { work(from, to); });
-    work(0, points / parts);
+// Computes neighbouring points: side by side by lanes(functions, run), and those without a value there by alone(point).
+template <class InLanes, class Alone>
+void compute(const Series& T, const Series& P, const Results& results, std::size_t from, std::size_t to,
+             const InLanes& lanes, const Alone& alone) {
+    constexpr std::size_t kFewest = 4;  // that are worth a register
+    constexpr std::size_t kMost = 512;  // what stays near the processor
+    const LaneFunctions* functions = to - from < kFewest ? nullptr : laneFunctions();
+    std::array<double, kMost> room;
+    for (std::size_t first = from; first < to; first += kMost) {
+        const std::size_t points = std::min(kMost, to - first);
+        double* const values = results.values.empty() ? room.data() : &results.values[first];
+        Standing* const standings = results.verdicts.empty() ? nullptr : &results.verdicts[first];
+        if (functions)
+            lanes(*functions, Run{T.from(first), P.from(first), T.step(), P.step(), points, values, standings});
+        for (std::size_t k = 0; k < points; ++k)
+            if (!functions || std::isnan(values[k])) results.set(first + k, alone(first + k));
+    }
 }
 
 }  // namespace
@@ -179,16 +111,25 @@ void evaluate(const PreparedMixture& mixture, const MixtureProperty& property, s
     requireInside(X, components.components.size(), points);
     const FractionReader reader(components, X);
     const Results results{values, verdicts};
+    const std::size_t evaluation = evaluationIndex(property);
+    const auto valueOf = [&](std::size_t point, std::span<const double> fractions) {
+        PropertyPoint state(components, fractions);
+        return valueAt(state, property, evaluation, temperatures[point], pressures[point], !verdicts.empty());
+    };
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
         std::array<double, kMostComponents> x;
-        for (std::size_t point = from; point < to; ++point) {
-            if (!reader.read(point, x)) {
-                results.set(point, {Standing::Failed});
-                continue;
-            }
-            PropertyPoint state(components, std::span(x).first(components.components.size()));
-            results.set(point, state.value(property, temperatures[point], pressures[point], !verdicts.empty()));
+        const auto fractions = std::span<const double>(x).first(components.components.size());
+        if (X.pointStride == 0 && reader.read(0, x)) {
+            compute(
+                temperatures, pressures, results, from, to,
+                [&](const LaneFunctions& lanes, const Run& run) {
+                    lanes.mixture(components, fractions, property, evaluation, run);
+                },
+                [&](std::size_t point) { return valueOf(point, fractions); });
+            return;
         }
+        for (std::size_t point = from; point < to; ++point)
+            results.set(point, reader.read(point, x) ? valueOf(point, fractions) : PropertyValue{Standing::Failed});
     });
 }
 
@@ -201,8 +142,10 @@ void evaluate(const PreparedMixture& mixture, const PureProperty& property, int 
     const Series temperatures(T, points);
     const Results results{values, verdicts};
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
-        for (std::size_t point = from; point < to; ++point)
-            results.set(point, one.pure(property.number, temperatures[point]));
+        compute(
+            temperatures, temperatures, results, from, to,
+            [&](const LaneFunctions& lanes, const Run& run) { lanes.pure(one, property.number, run); },
+            [&](std::size_t point) { return one.pure(property.number, temperatures[point]); });
     });
 }
 
