@@ -75,3 +75,7 @@ class NoMemoryError(Error, MemoryError):
 
 class VelorWarning(UserWarning):
     """Values that are missing or to be read with care; told once a call."""
+
+
+for _public in (Error, *Error.__subclasses__(), ClosedError, VelorWarning):
+    _public.__module__ = "velor"  # where callers know them from

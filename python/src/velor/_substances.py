@@ -210,7 +210,7 @@ class Database:
             code,
             row.unit,
             correlation.type,
-            text(correlation.equation),
+            text(correlation.equation).strip(),
             tuple(correlation.coefficients),
             correlation.t_min,
             correlation.t_max,
