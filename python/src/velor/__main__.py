@@ -5,6 +5,7 @@ from __future__ import annotations
 import platform
 import sys
 import warnings
+from importlib import metadata
 from typing import Any, Callable, List, NamedTuple
 
 import numpy as np
@@ -47,11 +48,22 @@ def _told(name: str, value: str) -> None:
     print(f"{name + ':':20}{value}")
 
 
+def _version_of(package: str) -> str:
+    try:
+        return f"{package} {metadata.version(package)}"
+    except metadata.PackageNotFoundError:
+        return f"{package} není"
+
+
 def _installation() -> None:
     _told("Python", f"{platform.python_version()}, {platform.system()} {platform.machine()}")
     _told("numpy", np.__version__)
+    _told("volitelné balíčky", ", ".join(map(_version_of, ("pandas", "matplotlib", "pint", "distributed"))))
     _told("velor", velor.__version__)
-    _told("knihovna", f"{_library.LIBRARY_PATH}, verze {_library.library().version()}")
+    version = _library.library().version()
+    _told("knihovna", f"{_library.LIBRARY_PATH}, verze {version}")
+    if version != velor.__version__:
+        raise velor.LibraryError("Knihovna a balíček nejsou téže verze.")
     _told("databáze", f"{velor.substances.path}, {len(velor.substances)} látek")
     _told("vlastnosti", f"{len(velor.properties)} směsí, {len(velor.pure_properties)} čistých látek")
 

@@ -88,6 +88,7 @@ def bubble_point(mixture: Mixture, P: Any = ATMOSPHERE) -> SaturationPoint:
     edge = Edge()
     T, codes, liquid = _point(mixture, "TBV", edge.take(P, "Pa", "P"))
     parts = np.where(liquid > 0, liquid * _vapour_pressures(mixture, T), 0.0)
+    warn_of({"TBV": codes})
     return SaturationPoint(edge.give(T, "K"), liquid, _normalised(parts, T), verdicts_of(codes))
 
 
@@ -116,6 +117,7 @@ def dew_point(mixture: Mixture, P: Any = ATMOSPHERE) -> SaturationPoint:
     condenses = (vapour > 0) & (T[..., np.newaxis] < critical)
     with np.errstate(invalid="ignore", divide="ignore"):
         parts = np.where(condenses, vapour / _vapour_pressures(mixture, T), 0.0)
+    warn_of({"TRB": codes})
     return SaturationPoint(edge.give(T, "K"), _normalised(parts, T), vapour, verdicts_of(codes))
 
 

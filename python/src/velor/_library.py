@@ -32,7 +32,9 @@ LIBRARY_PATH = FOLDER / ("velor.dll" if sys.platform == "win32" else "libvelor.s
 DATABASE_PATH = FOLDER / "VELOR.DRC"
 
 Values = NDArray[np.float64]
-Codes = NDArray[np.intc]
+Codes = NDArray[np.int8]
+
+_BLOCK = 1 << 16
 
 
 class Handle:
@@ -44,18 +46,29 @@ class Handle:
 
 
 class Fractions:
-    """The compositions of all points as the library reads them; keeps the array alive."""
+    """The compositions of all points, as the library reads them."""
 
     def __init__(self, fractions: Values, by_mass: bool, normalised: bool) -> None:
         """fractions: of shape (components) or (points, components), with any strides that are not negative."""
         if min(fractions.strides, default=0) < 0 or any(stride % sizeof(c_double) for stride in fractions.strides):
             fractions = np.ascontiguousarray(fractions)
+        self._fractions = fractions
+        self._by_mass = by_mass
+        self._normalised = normalised
+
+    def of(self, block: slice) -> CCompositions:
+        """Those of some of the points; good as long as this lives."""
+        fractions = self._fractions if self._fractions.ndim == 1 else self._fractions[block]
         strides = [stride // sizeof(c_double) for stride in fractions.strides]
-        last = sum((length - 1) * stride for length, stride in zip(fractions.shape, strides))
-        points = strides[0] if fractions.ndim == 2 else 0
-        self._array = fractions
-        self.passed = CCompositions(
-            sizeof(CCompositions), fractions.ctypes.data, last + 1, strides[-1], points, by_mass, normalised
+        count = 1 + sum((length - 1) * stride for length, stride in zip(fractions.shape, strides))
+        return CCompositions(
+            sizeof(CCompositions),
+            fractions.ctypes.data,
+            max(count, 0),
+            strides[-1],
+            strides[0] if fractions.ndim == 2 else 0,
+            self._by_mass,
+            self._normalised,
         )
 
 
@@ -137,42 +150,45 @@ class Library:
         threads: int,
     ) -> Tuple[Values, Codes]:
         """Values and verdicts; temperatures and pressures hold one number or one a point, without gaps."""
-        values, codes = np.empty(points), np.empty(points, np.intc)
-        self._checked(
-            "velor_evaluate",
-            mixture.pointer,
-            property_index,
-            _series(temperatures),
-            _series(pressures),
-            byref(fractions.passed),
-            points,
-            values.ctypes.data,
-            codes.ctypes.data,
-            threads,
-        )
-        return values, codes
+
+        def compute(block: slice, count: int, *results: Any) -> None:
+            T, P, X = _series(temperatures, block), _series(pressures, block), fractions.of(block)
+            self._checked("velor_evaluate", mixture.pointer, property_index, T, P, byref(X), count, *results)
+
+        return _in_blocks(compute, points, threads)
 
     def evaluate_pure(
         self, mixture: Handle, property_index: int, component: int, temperatures: Values, points: int, threads: int
     ) -> Tuple[Values, Codes]:
         """The same of a component, from 0."""
-        values, codes = np.empty(points), np.empty(points, np.intc)
-        self._checked(
-            "velor_evaluate_pure",
-            mixture.pointer,
-            property_index,
-            component,
-            _series(temperatures),
-            points,
-            values.ctypes.data,
-            codes.ctypes.data,
-            threads,
-        )
-        return values, codes
+
+        def compute(block: slice, count: int, *results: Any) -> None:
+            T = _series(temperatures, block)
+            self._checked("velor_evaluate_pure", mixture.pointer, property_index, component, T, count, *results)
+
+        return _in_blocks(compute, points, threads)
 
 
-def _series(values: Values) -> CSeries:
+def _series(values: Values, block: slice) -> CSeries:
+    """One number for all points, or those of some; good as long as the array lives."""
+    if values.size != 1:
+        values = values[block]
     return CSeries(values.ctypes.data, values.size)
+
+
+def _in_blocks(compute: Callable[..., None], points: int, threads: int) -> Tuple[Values, Codes]:
+    """So many at once that the work stays in the processor's caches and Ctrl+C is heard, and each thread has its share.
+
+    compute(block, count, values, verdicts, threads) takes the last three as the library does.
+    """
+    size = min(points, _BLOCK * threads)
+    values, codes, found = np.empty(points), np.empty(points, np.int8), np.empty(size, np.intc)
+    for start in range(0, points, size or 1):
+        block = slice(start, min(start + size, points))
+        count = block.stop - start
+        compute(block, count, values[block].ctypes.data, found.ctypes.data, threads)
+        codes[block] = found[:count]
+    return values, codes
 
 
 # ---- Its life ----------------------------------------------------------------------------------------------------

@@ -264,8 +264,6 @@ class Mixture(MixtureProperties):
         shape = common_shape(**{name: array.shape for name, array in state.items()}, složení=composition.shape)
         points = math.prod(shape)
         current, handle = self._prepared.get()
-        if points == 0:
-            return np.empty(shape), np.empty(shape, np.intc)
         spread_state = {name: spread(array, shape) for name, array in state.items()}
         values, codes = current.evaluate(
             handle,

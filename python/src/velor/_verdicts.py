@@ -140,12 +140,9 @@ def warn_of(computed: Mapping[str, Codes]) -> None:
     """Tell once which values of what was computed are not in range."""
     told = []
     for what, codes in computed.items():
-        notes = [
-            f"{verdict.word} ({count}): {verdict.note}"
-            for verdict, count in Verdicts(codes).counts().items()
-            if not verdict.in_range
-        ]
-        if notes:
+        if codes.any():
+            counts = Verdicts(codes).counts().items()
+            notes = [f"{one.word} ({count}): {one.note}" for one, count in counts if not one.in_range]
             told.append(f"{what}, {np.count_nonzero(codes)} z {codes.size} hodnot: {' '.join(notes)}")
     if told:
         warn("\n".join(told))
