@@ -35,13 +35,14 @@ class PreparedComponent {
 
     // Property k (1..10) at T with its verdict; see pureValue of verdict.h.
     PropertyValue pure(int k, const Temperature& T) const;
-    // The same of several points: NaN where there is no value, the standings only where there is one.
+    // The same of several points: not finite where there is no value, the standings only where there is one.
     template <class Number>
     Number pure(int k, const BasicTemperature<Number>& T, Standings<Number>& standings) const {
         const PreparedCorrelation& prepared = correlation(k);
         if (!prepared.isSilent()) return numbers::kNan;
-        if (!isAll(prepared.isInRange(T.kelvin()))) judgeEach(prepared, T.kelvin(), standings);
-        const Number y = prepared.value(T, isClamped_);
+        const bool isInRange = isAll(prepared.isInRange(T.kelvin()));
+        if (!isInRange) judgeEach(prepared, T.kelvin(), standings);
+        const Number y = prepared.value(T, isClamped_, isInRange);
         return select(y < 0.0, numbers::kNan, y);  // far outside its range: none of the ten is negative
     }
     // Whether the vapour pressure is neither extrapolated nor moved at T.

@@ -1,6 +1,7 @@
 // The correlations of the components, each prepared for many temperatures.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -33,21 +34,20 @@ class PreparedCorrelation {
         return Tx == T && !isWaterDensity_ ? equation_(T) : valueAt(Tx);
     }
 
-    // Of several points; those without a value are NaN.
+    // Of several points; those without a value are not finite. isInRange: that is known of all.
     template <class Number>
-    Number value(const BasicTemperature<Number>& T, bool isClamped) const {
-        return isMoved(T.kelvin(), isClamped) ? valuesAt<Number>(workingTemperatures(T.kelvin(), isClamped))
-                                              : valuesAt(T);
+    Number value(const BasicTemperature<Number>& T, bool isClamped, bool isInRange) const {
+        return isInRange || !isMoved(T.kelvin(), isClamped)
+                   ? valuesAt(T)
+                   : valuesAt<Number>(workingTemperatures(T.kelvin(), isClamped));
     }
 
     // See standingAt.
-    Standing standing(double T, bool isClamped) const {
-        return standingAt(T, Tmin_, Tmax_, isClamped, T > highest_);
-    }
+    Standing standing(double T, bool isClamped) const { return standingAt(T, Tmin_, Tmax_, isClamped, T > highest_); }
     // Where it is InRange.
     template <class Number>
     auto isInRange(const Number& T) const {
-        return (T >= Tmin_) & (T <= Tmax_) & (T <= highest_);
+        return (T >= Tmin_) & (T <= std::min(Tmax_, highest_));
     }
 
   private:

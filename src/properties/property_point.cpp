@@ -25,7 +25,8 @@ PropertyValue valueAt(PropertyPoint& point, const MixtureProperty& property, std
     try {
         const double value = point.at(T, P).value(property, kEvaluations<double>[evaluation].function);
         if (!point.standings().isComputed()) return {point.standings().worst(), numbers::kNan};
-        const bool isMetastable = isVerdictRead && isOfGasAtPressure(property) && point.condensing() > Raoult::kMostOfGas;
+        const bool isMetastable =
+            isVerdictRead && isOfGasAtPressure(property) && point.condensing() > Raoult::kMostOfGas;
         return {concluded(property, point.standings().worst(), isMetastable), value};
     } catch (const RunTimeError&) {
         return {Standing::Failed, numbers::kNan};

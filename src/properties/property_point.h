@@ -28,8 +28,8 @@ struct PreparedComponents {
     std::vector<PairFactor> pairs;  // of the gas's conductivity, by rows; none where a molar mass is missing
 };
 
-// Of the composition alone, all points have the same. Number is a double or Lanes: then a point of which something is to
-// be told, or that goes another way than its neighbours, has no value here, but may have one alone.
+// Of the composition alone, all points have the same. Number is a double or Lanes: then a point of which something is
+// to be told, or that goes another way than its neighbours, has no value here, but may have one alone.
 template <class Number>
 class BasicPropertyPoint {
   public:
@@ -151,7 +151,7 @@ class BasicPropertyPoint {
     At T_{0.0};
     Number P_ = 0.0;
     Standings<Number> standings_;
-    Number absence_;  // 0, or NaN where something gathered has no value
+    Number absence_;                         // 0, or NaN where something gathered has no value
     std::array<Values, kSIGMA + 1> values_;  // of each property gathered, by its number
 };
 

@@ -68,7 +68,7 @@ Number BasicPropertyPoint<Number>::value(const MixtureProperty& property, Evalua
     if (property.outcome) return hasVapourPressures() ? (this->*evaluate)() : Number(numbers::kNan);
     absence_ = 0.0;
     gather(property);
-    return standings_.isComputed() ? finite((this->*evaluate)()) + absence_ : Number(numbers::kNan);
+    return standings_.isComputed() ? finite((this->*evaluate)() + absence_) : Number(numbers::kNan);
 }
 
 // ---- Gathering ---------------------------------------------------------------------------------------------------
@@ -94,7 +94,7 @@ Number BasicPropertyPoint<Number>::pure(std::size_t i, Property k, const At& T) 
 template <class Number>
 void BasicPropertyPoint<Number>::keep(Property k, std::size_t i, const Number& value) {
     values_[k][i] = value;
-    absence_ += 0.0 * value;
+    if constexpr (!std::same_as<Number, double>) absence_ += 0.0 * value;  // of a single one the standings tell it
 }
 
 template <class Number>
@@ -120,12 +120,8 @@ void BasicPropertyPoint<Number>::gatherHeatOfVaporisation() {
     using namespace numbers;
     for (std::size_t i = 0; i < count_; ++i) {
         const auto isLeftOut = T_.kelvin() >= component(i).record().Tkr;
-        if (!isAny(isLeftOut)) {
-            keep(kDHV, i, pure(i, kDHV, T_, standings_));
-        } else {
-            standings_.take(Standing::LeftOut);
-            keep(kDHV, i, isAll(isLeftOut) ? 0.0 : kNan);
-        }
+        standings_.takeWhere(isLeftOut, Standing::LeftOut);
+        keep(kDHV, i, isAll(isLeftOut) ? Number(0.0) : select(isLeftOut, 0.0, pure(i, kDHV, T_, standings_)));
     }
 }
 
@@ -376,9 +372,9 @@ Number BasicPropertyPoint<Number>::referenced(double GasReference::*constant, co
 
 template <class Number>
 Number BasicPropertyPoint<Number>::enthalpy(const DenseGas& gas) const {
-    const Number ideal = referenced(&GasReference::enthalpy,
-                                    [&](const HeatCapacityIntegral& Cp) { return point::enthalpyOf(Cp, T_); });
-    return ideal + residual(gas).enthalpy;
+    const Number ideal =
+        referenced(&GasReference::enthalpy, [&](const HeatCapacityIntegral& Cp) { return point::enthalpyOf(Cp, T_); });
+    return ideal + residualEnthalpy(T_.kelvin(), gas.p, gas.V, gas.parameters);
 }
 
 template <class Number>
@@ -404,10 +400,11 @@ template <class Number>
 Number BasicPropertyPoint<Number>::RSG() {
     using numbers::naturalLogarithm;
     const DenseGas gas = denseGas();
-    Number sum = referenced(&GasReference::entropy,
-                            [&](const HeatCapacityIntegral& Cp) { return point::entropyOf(Cp, T_); });
+    Number sum =
+        referenced(&GasReference::entropy, [&](const HeatCapacityIntegral& Cp) { return point::entropyOf(Cp, T_); });
     for (const double fraction : x()) sum -= fraction * kGasConstant * naturalLogarithm(fraction);
-    return sum - kGasConstant * naturalLogarithm(gas.p / point::kReferencePressure) + residual(gas).entropy;
+    return sum - kGasConstant * naturalLogarithm(gas.p / point::kReferencePressure) +
+           residualEntropy(T_.kelvin(), gas.p, gas.V, gas.parameters);
 }
 template <class Number>
 Number BasicPropertyPoint<Number>::RSGW() {
@@ -500,16 +497,16 @@ template <class Number>
 inline constexpr auto kEvaluations = [] {
     using Point = BasicPropertyPoint<Number>;
     return std::to_array<NamedEvaluation<Number>>({
-        {"VSM", &Point::VSM},     {"TBV", &Point::TBV},         {"TRB", &Point::TRB},       {"ROLW", &Point::ROLW},
-        {"CPL", &Point::CPL},     {"CPLW", &Point::CPLW},       {"ETAL", &Point::ETAL},     {"ALAL", &Point::ALAL},
-        {"DHV", &Point::DHV},     {"DHVW", &Point::DHVW},       {"SIGMA", &Point::SIGMA},   {"TENS", &Point::TENS},
-        {"HL", &Point::HL},       {"HLW", &Point::HLW},         {"SL", &Point::SL},         {"SLW", &Point::SLW},
-        {"PRL", &Point::PrL},     {"OBJROZL", &Point::ObjRozL}, {"ETAG", &Point::ETAG},     {"RETAG", &Point::RETAG},
-        {"CPG", &Point::CPG},     {"CPGW", &Point::CPGW},       {"RCPG", &Point::RCPG},     {"RCPGW", &Point::RCPGW},
-        {"ALAG", &Point::ALAG},   {"RALAG", &Point::RALAG},     {"ROGW", &Point::ROGW},     {"RROGW", &Point::RROGW},
-        {"RUG", &Point::RUG},     {"RUGW", &Point::RUGW},       {"RHG", &Point::RHG},       {"RHGW", &Point::RHGW},
-        {"RSG", &Point::RSG},     {"RSGW", &Point::RSGW},       {"RCVG", &Point::RCVG},     {"RCVGW", &Point::RCVGW},
-        {"KAPA", &Point::Kapa},   {"LNFUG", &Point::LnFug},     {"JTKOEF", &Point::JTkoef},
+        {"VSM", &Point::VSM},   {"TBV", &Point::TBV},         {"TRB", &Point::TRB},       {"ROLW", &Point::ROLW},
+        {"CPL", &Point::CPL},   {"CPLW", &Point::CPLW},       {"ETAL", &Point::ETAL},     {"ALAL", &Point::ALAL},
+        {"DHV", &Point::DHV},   {"DHVW", &Point::DHVW},       {"SIGMA", &Point::SIGMA},   {"TENS", &Point::TENS},
+        {"HL", &Point::HL},     {"HLW", &Point::HLW},         {"SL", &Point::SL},         {"SLW", &Point::SLW},
+        {"PRL", &Point::PrL},   {"OBJROZL", &Point::ObjRozL}, {"ETAG", &Point::ETAG},     {"RETAG", &Point::RETAG},
+        {"CPG", &Point::CPG},   {"CPGW", &Point::CPGW},       {"RCPG", &Point::RCPG},     {"RCPGW", &Point::RCPGW},
+        {"ALAG", &Point::ALAG}, {"RALAG", &Point::RALAG},     {"ROGW", &Point::ROGW},     {"RROGW", &Point::RROGW},
+        {"RUG", &Point::RUG},   {"RUGW", &Point::RUGW},       {"RHG", &Point::RHG},       {"RHGW", &Point::RHGW},
+        {"RSG", &Point::RSG},   {"RSGW", &Point::RSGW},       {"RCVG", &Point::RCVG},     {"RCVGW", &Point::RCVGW},
+        {"KAPA", &Point::Kapa}, {"LNFUG", &Point::LnFug},     {"JTKOEF", &Point::JTkoef},
     });
 }();
 

@@ -1,6 +1,8 @@
 // What pressure adds to the viscosity and the thermal conductivity of a gas, by the reduced density.
 #pragma once
 
+#include <concepts>
+
 #include "rules/number.h"
 #include "rules/pseudocritical.h"
 
@@ -22,16 +24,20 @@ Number excessViscosity(const Pseudocritical& mixture, const Number& reducedDensi
     return divide(term, 1000.0 * viscosityGroup(mixture));
 }
 
-// Excess conductivity times Gamma Zc^5, in one of four ranges; lanes of several ranges have no value together.
+// Excess conductivity times Gamma Zc^5.
 template <class Number>
 Number conductivityTerm(const Number& r) {
     using namespace numbers;
-    if (isAll(r <= 0.5)) return 0.0002697 * (exponential(0.535 * r) - 1.0);
-    // 1, where 1.069 was published; required so
-    if (isAll(r > 0.5) && isAll(r <= 2.0)) return 0.0002524 * (exponential(0.67 * r) - 1.0);
-    if (isAll(r > 2.0) && isAll(r < 2.8)) return 5.733e-05 * (exponential(1.155 * r) + 2.016);
-    if (isAll(r >= 2.8)) return 5.733e-05 * (checked::exponential(3.234) + 2.016);  // the value at 2.8, held
-    return kNan;
+    const auto isThin = r <= 0.5, isMiddling = r <= 2.0, isDense = r < 2.8, isHeld = r >= 2.8;
+    const auto thin = [&] { return 0.0002697 * (exponential(0.535 * r) - 1.0); };
+    const auto middling = [&] { return 0.0002524 * (exponential(0.67 * r) - 1.0); };  // 1, not 1.069; required so
+    const auto dense = [&] { return 5.733e-05 * (exponential(1.155 * r) + 2.016); };
+    const auto held = [&]() -> Number { return 5.733e-05 * (checked::exponential(3.234) + 2.016); };  // as at 2.8
+    if constexpr (std::same_as<Number, double>)
+        return isThin ? thin() : isMiddling ? middling() : isDense ? dense() : held();
+    else  // without a density there is nothing
+        return select(isThin, thin(),
+                      select(isMiddling, middling(), select(isDense, dense(), select(isHeld, held(), kNan))));
 }
 
 // Stiel and Thodos (1964) in three ranges of the reduced density, constant above 2.8, divided by Gamma Zc^5, the group

@@ -36,10 +36,17 @@ constexpr std::uint8_t coefficients(Numbers... numbers) {
     return static_cast<std::uint8_t>(((1U << (numbers - 1)) | ...));
 }
 
-// Lanes have none at all: why, is for the single point to tell.
+// What an equation has beyond its reference temperature. Lanes have nothing: why, is for the single point to tell.
 template <class Number>
 Number none() {
     return std::same_as<Number, double> ? kNoValue : kNan;
+}
+
+// Where only some lanes are beyond it, y holds for the others.
+inline double except(bool, double y) { return y; }
+template <class Mask, class Number>
+Number except(const Mask& isBeyond, const Number& y) {
+    return select(isBeyond, kNan, y);
 }
 
 template <class Number>
@@ -113,19 +120,19 @@ struct Antoine {
 };
 
 struct Rackett {
-    static constexpr EquationFacts kFacts{
-        .text = " log(y) = 3 + log(A1) - (1 - T/A3)^(2/7) .log(A2)    A3=Tkr ",
-        .used = coefficients(1, 2, 3),
-        .reference = 3,
-        .source = "Rackett (1970)"};
+    static constexpr EquationFacts kFacts{.text = " log(y) = 3 + log(A1) - (1 - T/A3)^(2/7) .log(A2)    A3=Tkr ",
+                                          .used = coefficients(1, 2, 3),
+                                          .reference = 3,
+                                          .source = "Rackett (1970)"};
 
     template <class Number>
     static Number value(const EquationConstants& A, const BasicTemperature<Number>& at) {
         constexpr double kTwoSevenths = 0.285714;  // six digits, kept
         const Number& T = at.kelvin();
-        if (isAny(T > A[2])) return none<Number>();
+        const auto isBeyond = T > A[2];
+        if (isAll(isBeyond)) return none<Number>();
         const Number root = power(1.0 - divide(T, A[2]), kTwoSevenths);
-        return 1000.0 * exponential(A.logarithm(0) - root * A.logarithm(1));
+        return except(isBeyond, 1000.0 * exponential(A.logarithm(0) - root * A.logarithm(1)));
     }
 };
 
@@ -138,10 +145,11 @@ struct Watson {
     template <class Number>
     static Number value(const EquationConstants& A, const BasicTemperature<Number>& at) {
         const Number& T = at.kelvin();
-        if (isAny(T > A[3])) return none<Number>();
+        const auto isBeyond = T > A[3];
+        if (isAll(isBeyond)) return none<Number>();
         const Number ratio = divide(A[3] - T, A[3] - A[1]);
-        if (isAny(ratio < 0.0)) return none<Number>();
-        return A[0] * power(ratio, A[2]);
+        if (isAll(ratio < 0.0)) return none<Number>();
+        return except(isBeyond, A[0] * power(ratio, A[2]));
     }
 };
 
@@ -174,7 +182,7 @@ struct ReciprocalCubic {
 
     template <class Number>
     static Number value(const EquationConstants& A, const BasicTemperature<Number>& at) {
-        const Number r = divide(1.0, at.kelvin());
+        const Number& r = at.reciprocal();
         return exponential(A[0] + r * (A[1] + r * (A[2] + r * A[3])));
     }
 };
@@ -200,12 +208,13 @@ struct Wagner {
     template <class Number>
     static Number value(const EquationConstants& A, const BasicTemperature<Number>& at) {
         const Number& T = at.kelvin();
-        if (!isAll(T < A[4])) return none<Number>();
+        const auto isBelow = T < A[4];
+        if (!isAny(isBelow)) return none<Number>();
         const Number Tr = divide(T, A[4]);
         const Number t = 1.0 - Tr;
         const Number cube = t * t * t;
         const Number sum = A[0] * t + A[1] * (t * squareRoot(t)) + A[2] * cube + A[3] * (cube * cube);
-        return A[5] * exponential(divide(sum * A[4], T));
+        return except(!isBelow, A[5] * exponential(divide(sum * A[4], T)));
     }
 };
 
@@ -217,9 +226,10 @@ struct ReducedTension {
     static Number value(const EquationConstants& A, const BasicTemperature<Number>& at) {
         constexpr double kOneSixth = 0.166667;  // six digits, kept
         const Number& T = at.kelvin();
-        if (!isAll(T < A[1])) return none<Number>();
+        const auto isBelow = T < A[1];
+        if (!isAny(isBelow)) return none<Number>();
         const Number Tr = divide(T, A[1]);
-        return divide(A[0] * power(1.0 - Tr, 0.38), power(Tr, kOneSixth));
+        return except(!isBelow, divide(A[0] * power(1.0 - Tr, 0.38), power(Tr, kOneSixth)));
     }
 };
 
@@ -232,10 +242,11 @@ struct Daubert {
     template <class Number>
     static Number value(const EquationConstants& A, const BasicTemperature<Number>& at) {
         const Number& T = at.kelvin();
-        if (isAny(T > A[2])) return none<Number>();
+        const auto isBeyond = T > A[2];
+        if (isAll(isBeyond)) return none<Number>();
         const Number base = 1.0 - divide(T, A[2]);
-        if (isAny(base < 0.0)) return none<Number>();
-        return divide(A[0], powerOf(A, 1, 1.0 + power(base, A[3])));
+        if (isAll(base < 0.0)) return none<Number>();
+        return except(isBeyond, divide(A[0], powerOf(A, 1, 1.0 + power(base, A[3]))));
     }
 };
 
@@ -247,9 +258,10 @@ struct ReducedQuadratic {
     template <class Number>
     static Number value(const EquationConstants& A, const BasicTemperature<Number>& at) {
         const Number& T = at.kelvin();
-        if (isAny(T > A[5])) return none<Number>();
+        const auto isBeyond = T > A[5];
+        if (isAll(isBeyond)) return none<Number>();
         const Number Tr = divide(T, A[5]);
-        return A[0] * (1.0 - Tr) * (A[1] + A[2] * Tr + A[3] * Tr * Tr);
+        return except(isBeyond, A[0] * (1.0 - Tr) * (A[1] + A[2] * Tr + A[3] * Tr * Tr));
     }
 };
 
@@ -258,7 +270,7 @@ struct ReferenceReciprocal {
 
     template <class Number>
     static Number value(const EquationConstants& A, const BasicTemperature<Number>& at) {
-        return tenTo(A[0] * (divide(1.0, at.kelvin()) - divide(1.0, A[1])) + A[2]);
+        return tenTo(A[0] * (at.reciprocal() - divide(1.0, A[1])) + A[2]);
     }
 };
 
@@ -279,7 +291,7 @@ struct GasTransport {
 
     template <class Number>
     static Number value(const EquationConstants& A, const BasicTemperature<Number>& at) {
-        const Number r = divide(1.0, at.kelvin());
+        const Number& r = at.reciprocal();
         return divide(A[0] * power(at, A[1]), 1.0 + r * (A[2] + r * A[3]));
     }
 };
@@ -301,8 +313,10 @@ using EquationFunction = Number (*)(const EquationConstants& A, const BasicTempe
 
 template <class Form, class Number>
 Number finiteValue(const EquationConstants& A, const BasicTemperature<Number>& T) {
-    using numbers::finite;
-    return finite(Form::value(A, T));
+    if constexpr (std::same_as<Number, double>)
+        return checked::finite(Form::value(A, T));
+    else
+        return Form::value(A, T);  // what comes of it all has to be
 }
 
 // By type, from 0.
@@ -317,7 +331,7 @@ template <class Number>
 Number waterDensity(const Number& T) {
     using namespace numbers;
     const Number tau = 1.0 - T / 647.096;
-    if (isAny(tau < 0.0)) checked::raise(RunTimeError::kInvalidCall);  // no power of it exists
+    if (isAll(tau < 0.0)) checked::raise(RunTimeError::kInvalidCall);  // no power of it exists
     const Number c = cubeRoot(tau);                                    // every exponent is a multiple of 1/3
     const Number c2 = c * c, c5 = c2 * c2 * c, c16 = c5 * c5 * c5 * c;
     const Number c32 = c16 * c16, c43 = c32 * c5 * c5 * c, c110 = c43 * c43 * c16 * c5 * c2 * c;

@@ -3,8 +3,8 @@
 //
 //     p = R T / (V - b) - theta / (V (V + b)),     theta = S^2,     b = sum(x b_i),     S = sum(x s_i(T))
 //
-// Units of this file: pressure MPa, molar volume cm3/mol, energy J/mol (MPa cm3 = J), temperature K. Primes are d/dT. Number is a
-// double or the Lanes of several points.
+// Units of this file: pressure MPa, molar volume cm3/mol, energy J/mol (MPa cm3 = J), temperature K. Primes are d/dT.
+// Number is a double or the Lanes of several points.
 #pragma once
 
 #include <cstddef>
@@ -101,9 +101,9 @@ Number gasVolumes(const Number& T, const Number& p, const BasicCubicParameters<N
         const Number slope = F.slope(V);
         const Number next = V - F.value(V) / slope;
         const auto isInside = (slope > 0.0) & (next > mixture.b) & (next <= highest);
-        const Number change = absolute(next - V);
+        const auto goesOn = isMoving & (absolute(V - next) >= kVolumeTolerance);
         V = select(isMoving, select(isInside, next, kNan), V);
-        isMoving = isMoving & (change >= kVolumeTolerance);
+        isMoving = goesOn;
     }
     return V;
 }
@@ -132,6 +132,17 @@ template <class Number>
 Number logRepulsion(const Number& T, const Number& p, const Number& V, double b) {
     using namespace numbers;
     return naturalLogarithm(divide(p * (V - b), kGasConstant * T));
+}
+
+template <class Number>
+Number residualEnthalpy(const Number& T, const Number& p, const Number& V,
+                        const BasicCubicParameters<Number>& mixture) {
+    return p * V - kGasConstant * T + (T * mixture.dTheta() - mixture.theta()) * attractionIntegral(mixture.b, V);
+}
+
+template <class Number>
+Number residualEntropy(const Number& T, const Number& p, const Number& V, const BasicCubicParameters<Number>& mixture) {
+    return kGasConstant * logRepulsion(T, p, V, mixture.b) + mixture.dTheta() * attractionIntegral(mixture.b, V);
 }
 
 template <class Number>

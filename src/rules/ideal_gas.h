@@ -30,14 +30,14 @@ class HeatCapacityIntegral {
 
     double enthalpy(double T) const;             // of Cp dT, J/mol
     double entropy(double T, double lnT) const;  // of Cp/T dT, J/(mol K); lnT is the logarithm of T
-    // The same of several points; NaN unless all lie where a polynomial is exact.
+    // The same of several points; NaN where a polynomial alone does not tell it.
     template <class Number>
     Number enthalpies(const Number& T) const {
-        return isExact(T) ? polynomialEnthalpy(T) - enthalpyAt0_ : Number(numbers::kNan);
+        return exact(T, polynomialEnthalpy(T) - enthalpyAt0_);
     }
     template <class Number>
     Number entropies(const Number& T, const Number& lnT) const {
-        return isExact(T) ? polynomialEntropy(T, lnT) - entropyAt0_ : Number(numbers::kNan);
+        return exact(T, polynomialEntropy(T, lnT) - entropyAt0_);
     }
 
   private:
@@ -53,10 +53,13 @@ class HeatCapacityIntegral {
         for (std::size_t j = 5; j-- > 1;) sum = sum * T + byEntropy_[j];
         return sum * T + byEntropy_[0] * lnT;
     }
+    // Where the polynomial is the whole of it, else NaN.
     template <class Number>
-    bool isExact(const Number& T) const {
+    Number exact(const Number& T, const Number& integral) const {
         using namespace numbers;
-        return polynomial_ && !(heatCapacity_.clamped && isAny((T < heatCapacity_.Tmin) | (T > heatCapacity_.Tmax)));
+        if (!polynomial_) return kNan;
+        const auto isHeld = (T < heatCapacity_.Tmin) | (T > heatCapacity_.Tmax);
+        return heatCapacity_.clamped ? select(isHeld, kNan, integral) : integral;
     }
 
     HeatCapacity heatCapacity_;

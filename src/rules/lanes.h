@@ -14,7 +14,7 @@ class Lanes {
     using Register = typename Instructions::Register;
 
     // Several registers a number, so that what is done once for all of them, the calls above all, costs little a point.
-    static constexpr std::size_t kRegisters = 4;
+    static constexpr std::size_t kRegisters = 8;
     static constexpr std::size_t kWidth = sizeof(Register) / sizeof(double);
     static constexpr std::size_t kCount = kRegisters * kWidth;
 
@@ -97,25 +97,23 @@ class Lanes {
     friend Lanes larger(const Lanes& a, const Lanes& b) { return select(a < b, b, a); }
     friend Lanes smaller(const Lanes& a, const Lanes& b) { return select(b < a, b, a); }
 
-    // As runtime/checked.h has them for one number.
+    // As runtime/checked.h has them for one number, but for this: an infinity stays one as long as it cannot vanish
+    // again, as in 1/infinity, and it is finite() that ends it.
     friend Lanes finite(const Lanes& a) {
         return each(a, [](Register x) { return x + (x - x); });
     }
     friend Lanes divide(const Lanes& a, const Lanes& b) {
-        return each(a, b, [](Register x, Register y) {
-            const Register quotient = x / y;
-            return quotient + ((quotient - quotient) + (y - y));
-        });
+        return each(a, b, [](Register x, Register y) { return x / y + 0.0 * y; });
     }
     friend Lanes exponential(const Lanes& a) {
-        return finite(each(finite(a), [](Register x) { return Instructions::exponential(x); }));
+        return each(a, [](Register x) { return Instructions::exponential(x) + 0.0 * x; });
     }
-    friend Lanes plainLogarithm(const Lanes& a) {  // unchecked
+    friend Lanes naturalLogarithm(const Lanes& a) {
         return each(a, [](Register x) { return Instructions::logarithm(x); });
     }
-    friend Lanes naturalLogarithm(const Lanes& a) { return finite(plainLogarithm(a)); }
+    friend Lanes plainLogarithm(const Lanes& a) { return naturalLogarithm(a); }
     friend Lanes squareRoot(const Lanes& a) {
-        return finite(each(a, [](Register x) { return Instructions::squareRoot(x); }));
+        return each(a, [](Register x) { return Instructions::squareRoot(x); });
     }
     friend Lanes power(const Lanes& base, double exponent) { return exponential(exponent * naturalLogarithm(base)); }
     friend Lanes cubeRoot(const Lanes& a) { return power(a, 1.0 / 3.0); }

@@ -17,14 +17,15 @@ struct Run {
     Standing* standings;  // of those that have a value; may be null
 };
 
-// What a set of instructions can do.
+// What a set of instructions can do; false where a value is missing.
 struct LaneFunctions {
-    void (*mixture)(const PreparedComponents& mixture, std::span<const double> fractions,
+    bool (*mixture)(const PreparedComponents& mixture, std::span<const double> fractions,
                     const MixtureProperty& property, std::size_t evaluation, const Run& run);
-    void (*pure)(const PreparedComponent& component, int property, const Run& run);
+    bool (*pure)(const PreparedComponent& component, int property, const Run& run);
 };
 
-// Chosen by the processor; null where points are computed one by one: the vector mathematics is that of glibc on x86-64.
+// Chosen by the processor; null where points are computed one by one: the vector mathematics is that of glibc on
+// x86-64.
 const LaneFunctions* laneFunctions();
 
 // One translation unit each, compiled for those instructions; nothing else may be called on a lesser processor.

@@ -10,48 +10,43 @@ namespace velor {
 template <class Instructions>
 class LaneRun {
   public:
-    static void mixture(const PreparedComponents& mixture, std::span<const double> fractions,
+    static bool mixture(const PreparedComponents& mixture, std::span<const double> fractions,
                         const MixtureProperty& property, std::size_t evaluation, const Run& run) {
         BasicPropertyPoint<Number> point(mixture, fractions);
         const Evaluation<Number> evaluate = kEvaluations<Number>[evaluation].function;
         const bool mayBeMetastable = run.standings && isOfGasAtPressure(property);
-        inGroups(run, [&](const Number& T, const Number& P, Judgement& judgement) {
+        return inGroups(run, [&](const Number& T, const Number& P, Standing* standings, std::size_t count) {
             const Number found = point.at(T, P).value(property, evaluate);
-            judgement.standings = point.standings();
-            judgement.property = &property;
-            if (!mayBeMetastable) return found;
-            const Number condensing = point.condensing();
-            condensing.store(judgement.condensing);
-            return select(isNan(condensing), condensing, found);
+            if (!standings) return found;
+            double condensing[Number::kCount]{};
+            const Number sum = mayBeMetastable ? point.condensing() : Number(0.0);
+            sum.store(condensing);
+            for (std::size_t lane = 0; lane < count; ++lane)
+                standings[lane] =
+                    concluded(property, point.standings().worst(lane), condensing[lane] > Raoult::kMostOfGas);
+            return found + 0.0 * sum;
         });
     }
 
-    static void pure(const PreparedComponent& component, int property, const Run& run) {
-        inGroups(run, [&](const Number& T, const Number&, Judgement& judgement) {
-            return component.pure(property, BasicTemperature<Number>(T), judgement.standings);
+    static bool pure(const PreparedComponent& component, int property, const Run& run) {
+        return inGroups(run, [&](const Number& T, const Number&, Standing* standings, std::size_t count) {
+            Standings<Number> judged;
+            const Number found = finite(component.pure(property, BasicTemperature<Number>(T), judged));
+            for (std::size_t lane = 0; standings && lane < count; ++lane) standings[lane] = judged.worst(lane);
+            return found;
         });
     }
 
   private:
     using Number = Lanes<Instructions>;
 
-    struct Judgement {
-        Standings<Number> standings;
-        const MixtureProperty* property = nullptr;  // none of a pure substance
-        double condensing[Number::kCount]{};
-
-        Standing of(std::size_t lane) const {
-            const Standing worst = standings.worst(lane);
-            return property ? concluded(*property, worst, condensing[lane] > Raoult::kMostOfGas) : worst;
-        }
-    };
-
     // The last group is filled up with its last point.
     static Number take(const double* values, std::size_t step, std::size_t count) {
         if (step == 0) return *values;
         if (count == Number::kCount) return Number::load(values);
         double filled[Number::kCount];
-        for (std::size_t lane = 0; lane < Number::kCount; ++lane) filled[lane] = values[lane < count ? lane : count - 1];
+        for (std::size_t lane = 0; lane < Number::kCount; ++lane)
+            filled[lane] = values[lane < count ? lane : count - 1];
         return Number::load(filled);
     }
 
@@ -63,22 +58,25 @@ class LaneRun {
     }
 
     template <class Compute>
-    static void inGroups(const Run& run, const Compute& compute) {
+    static bool inGroups(const Run& run, const Compute& compute) {
+        bool isComplete = true;
         for (std::size_t from = 0; from < run.points; from += Number::kCount) {
             const std::size_t rest = run.points - from, count = rest < Number::kCount ? rest : Number::kCount;
             const Number T = take(run.T + from * run.stepT, run.stepT, count);
             const Number P = take(run.P + from * run.stepP, run.stepP, count);
-            Judgement judgement;
-            give(computed(compute, T, P, judgement), run.values + from, count);
-            if (!run.standings) continue;
-            for (std::size_t lane = 0; lane < count; ++lane) run.standings[from + lane] = judgement.of(lane);
+            Standing* const standings = run.standings ? run.standings + from : nullptr;
+            const Number found = computed(compute, T, P, standings, count);
+            isComplete = isComplete && !isAny(isNan(found));
+            give(found, run.values + from, count);
         }
+        return isComplete;
     }
 
     template <class Compute>
-    static Number computed(const Compute& compute, const Number& T, const Number& P, Judgement& judgement) {
+    static Number computed(const Compute& compute, const Number& T, const Number& P, Standing* standings,
+                           std::size_t count) {
         try {
-            return compute(T, P, judgement);
+            return compute(T, P, standings, count);
         } catch (const RunTimeError&) {
             return numbers::kNan;  // each alone tells its own
         }

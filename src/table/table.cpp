@@ -73,16 +73,15 @@ struct Results {
 template <class InLanes, class Alone>
 void compute(const Series& T, const Series& P, const Results& results, std::size_t from, std::size_t to,
              const InLanes& lanes, const Alone& alone) {
-    constexpr std::size_t kFewest = 4;  // that are worth a register
     constexpr std::size_t kMost = 512;  // what stays near the processor
-    const LaneFunctions* functions = to - from < kFewest ? nullptr : laneFunctions();
+    const LaneFunctions* functions = laneFunctions();
     std::array<double, kMost> room;
     for (std::size_t first = from; first < to; first += kMost) {
         const std::size_t points = std::min(kMost, to - first);
         double* const values = results.values.empty() ? room.data() : &results.values[first];
         Standing* const standings = results.verdicts.empty() ? nullptr : &results.verdicts[first];
-        if (functions)
-            lanes(*functions, Run{T.from(first), P.from(first), T.step(), P.step(), points, values, standings});
+        const Run run{T.from(first), P.from(first), T.step(), P.step(), points, values, standings};
+        if (functions && lanes(*functions, run)) continue;
         for (std::size_t k = 0; k < points; ++k)
             if (!functions || std::isnan(values[k])) results.set(first + k, alone(first + k));
     }
@@ -123,7 +122,7 @@ void evaluate(const PreparedMixture& mixture, const MixtureProperty& property, s
             compute(
                 temperatures, pressures, results, from, to,
                 [&](const LaneFunctions& lanes, const Run& run) {
-                    lanes.mixture(components, fractions, property, evaluation, run);
+                    return lanes.mixture(components, fractions, property, evaluation, run);
                 },
                 [&](std::size_t point) { return valueOf(point, fractions); });
             return;
@@ -144,7 +143,7 @@ void evaluate(const PreparedMixture& mixture, const PureProperty& property, int 
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
         compute(
             temperatures, temperatures, results, from, to,
-            [&](const LaneFunctions& lanes, const Run& run) { lanes.pure(one, property.number, run); },
+            [&](const LaneFunctions& lanes, const Run& run) { return lanes.pure(one, property.number, run); },
             [&](std::size_t point) { return one.pure(property.number, temperatures[point]); });
     });
 }
