@@ -112,7 +112,8 @@ test_tsan() {
     (cd "$root" && LC_ALL=C "${fixed_addresses[@]}" ctest --preset tsan)
 }
 
-install_packages "${needed_to_build[@]}" pkg-config tmux bash-completion groff-base man-db lintian
+install_packages "${needed_to_build[@]}" pkg-config tmux bash-completion groff-base man-db lintian \
+    abigail-tools
 if ! (install_packages "${needed_for_python[@]}"); then
     skipped+=("balíček pro Python: balíčky nelze nainstalovat")
 fi

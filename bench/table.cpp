@@ -1,13 +1,12 @@
-// Many points at once: beside the same loops written by hand for this machine's vector instructions, and bubble and dew
-// points beside the object.
-#include "velor/table.h"
-
+// Many points at once: beside the same loops written by hand for this machine's vector instructions, and bubble points,
+// dew points and flashes beside the object.
 #include <functional>
 #include <numeric>
 
 #include "comparison.h"
 #include "mixture.h"
 #include "vector_floor.h"
+#include "velor/flash_table.h"
 
 namespace velor::bench {
 
@@ -60,6 +59,34 @@ struct Table {
     }
 };
 
+// Halfway between bubble and dew point, of an adiabatic flash a feed that much warmer.
+States flashStates(const Table& table, const Points& P, FlashKind kind) {
+    States states{Points(kPoints), P};
+    Points bubble(kPoints), dew(kPoints);
+    table.of("TBV")(states, bubble);
+    table.of("TRB")(states, dew);
+    for (std::size_t k = 0; k < kPoints; ++k)
+        states.T[k] = 0.5 * (bubble[k] + dew[k]) + (kind == FlashKind::Adiabatic ? 30.0 : 0.0);
+    return states;
+}
+
+void compareFlashes(const std::string& task, const Table& table, const Points& P, FlashKind kind) {
+    compareArrays(
+        task, 0.34, flashStates(table, P, kind),
+        [table, kind](const States& at, Points& values) {
+            flash(table.prepared, kind, at.T, at.P, {table.mixture->fractions}, kPoints, {.vapourFractions = values});
+        },
+        [table, kind](const States& at, Points& values) {
+            for (std::size_t k = 0; k < kPoints; ++k) {
+                Variant T = at.T[k], P = at.P[k];
+                benchmark::DoNotOptimize(
+                    table.mixture->smes.FLASH(kind == FlashKind::Adiabatic ? 1 : 0, T, P, table.mixture->X));
+                values[k] = table.mixture->smes.lastFlash().vapourFraction;
+            }
+        },
+        1e-3);
+}
+
 }  // namespace
 
 void addTable() {
@@ -91,6 +118,8 @@ void addTable() {
                     values[k] = row->method(three.mixture->smes, {}, at.P[k], three.mixture->X).toDouble();
             },
             1e-4);
+    compareFlashes("table FLASH 5 beside the object", five, liquid.P, FlashKind::Isothermal);
+    compareFlashes("table FLASH 5 adiabatic beside the object", five, liquid.P, FlashKind::Adiabatic);
 }
 
 }  // namespace velor::bench

@@ -58,3 +58,25 @@ Public Function BodVaru(ByVal Latky As Range, ByVal Podily As Range, ByVal P As 
 Chyba:
     BodVaru = Potiz
 End Function
+
+' Of a whole range at once, as an array formula: =VlastnostiSmesi("ROLW"; A1:A2; B1:B2; D1:F20), with pressures of the same
+' shape, or one for all, behind the temperatures where the property needs them.
+Public Function VlastnostiSmesi(ByVal Nazev As String, ByVal Latky As Range, ByVal Podily As Range, ByVal T As Variant, _
+                                Optional ByVal P As Variant) As Variant
+    Dim X As Variant, H As Variant, i As Long, k As Long
+    On Error GoTo Chyba
+    H = Smes(Latky, Podily, X).Tabulka(Nazev, X, T, P)
+    If IsArray(H) Then
+        For i = LBound(H, 1) To UBound(H, 1)
+            For k = LBound(H, 2) To UBound(H, 2)
+                If IsEmpty(H(i, k)) Then H(i, k) = CVErr(xlErrNA)
+            Next k
+        Next i
+    ElseIf IsEmpty(H) Then
+        H = CVErr(xlErrNA)
+    End If
+    VlastnostiSmesi = H
+    Exit Function
+Chyba:
+    VlastnostiSmesi = Potiz
+End Function

@@ -79,7 +79,8 @@ class Smes {
 
     // While Tichy is 1, the last text that the last call would have shown; empty when it would have shown none. A call
     // that defines, loads, computes or shows begins with it empty; reading a setting, a constant or a kept result
-    // leaves it. What ChyboveHlasky or a spent MaxErrHlas suppresses is not kept either.
+    // leaves it. What ChyboveHlasky or a spent MaxErrHlas suppresses is not kept either. Tabulka is silent whatever
+    // Tichy is, and so leaves its text here.
     std::string PosledniHlaska() const;
 
     // Temperature function of the equation of state: 0 Redlich-Kwong, any other value Soave.
@@ -445,6 +446,18 @@ class Smes {
     // of the first list at or below -9999, as HL of a cold liquid may be, counts as not found and ends in the
     // unknown-name message, as built.
     Variant Vlastnost(const std::string& Name, const Variant& X, const Variant& T, const Variant& P);
+
+    // The property of that name at many points, by the table (velor/table.h): of the components as they are loaded,
+    // what was changed in them included, with the present Redlich and MezeTeplot. T and P are numbers or arrays, two
+    // arrays of one length; the answer is a number or an array with the bounds of T's or P's. Fractions X(1..n) as in
+    // Vlastnost, of sum 1 within 1e-05. What the property does not need is not read and may be left out. A point
+    // without a value is Empty, as after a trapped error, and an Empty one is left so: of an empty cell the answer is
+    // empty, where -9999 or 1E-8 would be taken for a number. A text that is no number is such a point, too. Nothing is
+    // shown or counted, whatever Tichy is, and no result of an earlier call is touched; where a substance is missing
+    // from the database every point is Empty, and PosledniHlaska tells which. Errors: 5 an unknown name, 9 other
+    // lengths, too few fractions or no components, 13 a needed number left out or a fraction that is none, those of
+    // Inivlr.
+    Variant Tabulka(const std::string& Name, const Variant& X, const Variant& T, const Variant& P = Variant::missing());
 
   private:
     // With boxes that the object owns.

@@ -1,5 +1,5 @@
-/* The library for C and for every language that calls C: the catalogue of properties, the substances of a database, and
- * properties of mixtures at many points.
+/* The library for C and for every language that calls C: the catalogue of properties, the substances of a database,
+ * properties and flashes of mixtures at many points.
  *
  * - All texts are UTF-8 and end in a zero byte. Those that are returned live as long as the handle that they came from,
  *   those of the catalogue for ever.
@@ -171,6 +171,47 @@ int velor_evaluate(const velor_mixture* mixture, int property, velor_series temp
 /* A pure property of one component, from 0. */
 int velor_evaluate_pure(const velor_mixture* mixture, int property, int component, velor_series temperatures,
                         size_t points, double* values, int* verdicts, int threads, velor_error* error);
+
+/* ---- Flashes at many points -------------------------------------------------------------------------------------- */
+
+enum velor_flash_kind { VELOR_ISOTHERMAL = 0, VELOR_ADIABATIC = 1 };
+
+enum velor_flash_outcome {
+    VELOR_FLASH_NONE = 0, /* the verdict says why */
+    VELOR_FLASH_ALL_VAPOUR = 1,
+    VELOR_FLASH_ALL_LIQUID = 2,
+    VELOR_FLASH_CONVERGED = 3, /* vapour and liquid */
+    VELOR_FLASH_NOT_CONVERGED = 4
+};
+
+/* Where the results go: of each array one element a point, of the fractions and K-values component i of point p at
+ * i * component_stride + p * point_stride. Any array may be NULL. NaN stands for none. */
+typedef struct velor_flash_results {
+    size_t size;
+    int* outcomes;
+    int* verdicts;
+    int* passes;                /* 0 where nothing was iterated */
+    double* vapour_fractions;   /* moles of vapour per mole of feed */
+    double* temperatures;       /* K */
+    double* bubble_points;      /* K */
+    double* dew_points;         /* K */
+    double* material_residuals; /* sum(x (1 - K)) as the last pass found it */
+    double* energy_residuals;   /* J/mol, likewise; of an adiabatic flash */
+    double* liquids;            /* mole fractions; 0 in a phase that is not there */
+    double* vapours;
+    double* equilibriums;  /* K = y / x; NaN of the feed alone */
+    size_t fraction_count; /* the length of each of the last three */
+    ptrdiff_t component_stride;
+    ptrdiff_t point_stride; /* 0: one point right behind the other */
+} velor_flash_results;
+#define VELOR_FLASH_RESULTS_INIT \
+    { sizeof(velor_flash_results), NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, NULL, 0, 1, 0 }
+
+/* Flashes a feed at so many points: K (of an adiabatic flash the liquid feed's own temperature) and Pa. A fault of one
+ * point leaves the others. threads: 1 or more. */
+int velor_flash(const velor_mixture* mixture, int kind, velor_series temperatures, velor_series pressures,
+                const velor_compositions* feeds, size_t points, const velor_flash_results* results, int threads,
+                velor_error* error);
 
 #ifdef __cplusplus
 }

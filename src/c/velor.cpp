@@ -14,6 +14,7 @@
 #include "rules/equations.h"
 #include "runtime/checked.h"
 #include "velor/constants.h"
+#include "velor/flash_table.h"
 #include "velor/substances.h"
 #include "velor/table.h"
 #include "velor/text.h"
@@ -115,32 +116,48 @@ std::span<const double> spanOf(const velor_series& series) {
     return {series.values, series.count};
 }
 
-// Where the caller's verdicts are numbers.
-class Verdicts {
+Compositions compositionsOf(const velor_compositions* compositions) {
+    requireSize(compositions);
+    return {spanOf({compositions->values, compositions->count}), compositions->component_stride,
+            compositions->point_stride, compositions->by_mass != 0 ? FractionKind::Mass : FractionKind::Mole,
+            compositions->normalised != 0};
+}
+
+template <class Value>
+std::span<Value> outputOf(Value* values, std::size_t count) {
+    return {values, values ? count : 0};
+}
+
+// Where the caller's enumerators are numbers.
+template <class Enumerator>
+class Numbered {
   public:
-    Verdicts(int* numbers, std::size_t points) : numbers_(numbers), standings_(numbers ? points : 0) {}
-    std::span<Standing> standings() { return standings_; }
+    Numbered(int* numbers, std::size_t points) : numbers_(numbers), values_(numbers ? points : 0) {}
+    std::span<Enumerator> values() { return values_; }
     void copy() const {
-        std::ranges::transform(standings_, numbers_, [](Standing standing) { return static_cast<int>(standing); });
+        std::ranges::transform(values_, numbers_, [](Enumerator value) { return static_cast<int>(value); });
     }
 
   private:
     int* numbers_;
-    std::vector<Standing> standings_;
+    std::vector<Enumerator> values_;
 };
-
-constexpr const char* kNoLength = "Počty hodnot, složení a bodů si neodpovídají.";
 
 // The table's own check is of lengths alone.
 template <class Body>
+void withLengthsChecked(const Body& body) {
+    try {
+        body();
+    } catch (const RunTimeError&) {
+        throw WrongUse{"Počty hodnot, složení a bodů si neodpovídají."};
+    }
+}
+
+template <class Body>
 void evaluateInto(double* values, int* verdicts, std::size_t points, const Body& body) {
     require(values || verdicts || points == 0, "Není kam zapsat.");
-    Verdicts standings(verdicts, points);
-    try {
-        body(std::span(values, values ? points : 0), standings.standings());
-    } catch (const RunTimeError&) {
-        throw WrongUse{kNoLength};
-    }
+    Numbered<Standing> standings(verdicts, points);
+    withLengthsChecked([&] { body(outputOf(values, points), standings.values()); });
     standings.copy();
 }
 
@@ -292,12 +309,8 @@ int velor_evaluate(const velor_mixture* mixture, int property, velor_series temp
                    velor_error* error) {
     return guarded(error, [&] {
         require(mixture && compositions, "Směs nebo složení chybí.");
-        requireSize(compositions);
         const MixtureProperty& row = rowOf(mixtureProperties(), property);
-        const Compositions X{spanOf({compositions->values, compositions->count}), compositions->component_stride,
-                             compositions->point_stride,
-                             compositions->by_mass != 0 ? FractionKind::Mass : FractionKind::Mole,
-                             compositions->normalised != 0};
+        const Compositions X = compositionsOf(compositions);
         const auto T = spanOf(temperatures), P = spanOf(pressures);
         evaluateInto(values, verdicts, points, [&](std::span<double> found, std::span<Standing> standings) {
             evaluate(mixture->prepared, row, T, P, X, found, standings, {threads});
@@ -315,5 +328,39 @@ int velor_evaluate_pure(const velor_mixture* mixture, int property, int componen
         evaluateInto(values, verdicts, points, [&](std::span<double> found, std::span<Standing> standings) {
             evaluate(mixture->prepared, row, component + 1, T, found, standings, {threads});
         });
+    });
+}
+
+int velor_flash(const velor_mixture* mixture, int kind, velor_series temperatures, velor_series pressures,
+                const velor_compositions* feeds, size_t points, const velor_flash_results* results, int threads,
+                velor_error* error) {
+    return guarded(error, [&] {
+        require(mixture && feeds, "Směs nebo složení chybí.");
+        requireSize(results);
+        require(kind == VELOR_ISOTHERMAL || kind == VELOR_ADIABATIC, "Takový flash není.");
+        const bool hasPhases = results->liquids || results->vapours || results->equilibriums;
+        require(!hasPhases || results->fraction_count > 0 || points == 0, "Není kam zapsat zlomky.");
+        const Compositions Z = compositionsOf(feeds);
+        const auto T = spanOf(temperatures), P = spanOf(pressures);
+        Numbered<FlashOutcome> outcomes(results->outcomes, points);
+        Numbered<Standing> verdicts(results->verdicts, points);
+        const FlashResults arrays{outcomes.values(),
+                                  verdicts.values(),
+                                  outputOf(results->passes, points),
+                                  outputOf(results->vapour_fractions, points),
+                                  outputOf(results->temperatures, points),
+                                  outputOf(results->bubble_points, points),
+                                  outputOf(results->dew_points, points),
+                                  outputOf(results->material_residuals, points),
+                                  outputOf(results->energy_residuals, points),
+                                  outputOf(results->liquids, results->fraction_count),
+                                  outputOf(results->vapours, results->fraction_count),
+                                  outputOf(results->equilibriums, results->fraction_count),
+                                  results->component_stride,
+                                  results->point_stride};
+        const FlashKind chosen = kind == VELOR_ADIABATIC ? FlashKind::Adiabatic : FlashKind::Isothermal;
+        withLengthsChecked([&] { flash(mixture->prepared, chosen, T, P, Z, points, arrays, {threads}); });
+        outcomes.copy();
+        verdicts.copy();
     });
 }

@@ -44,6 +44,17 @@ struct Argument<VARIANT> {
     void giveBack() {}
 };
 
+// One that may have several dimensions.
+struct Ranged {
+    const VARIANT& raw;
+};
+template <>
+struct Argument<Ranged> {
+    Grid value;
+    explicit Argument(const Ranged& range) : value(toGrid(range.raw)) {}
+    void giveBack() {}
+};
+
 // By reference: what the call changed is given back.
 template <>
 struct Argument<VARIANT*> {
@@ -68,6 +79,7 @@ inline void keep(short& kept, int value) { kept = checkedInt16(value); }
 inline void keep(float& kept, float value) { kept = value; }
 inline void keep(Bstr& kept, const std::string& value) { kept = toBstr(value); }
 inline void keep(OwnVariant& kept, const Variant& value) { fromVariant(value, *kept.get()); }
+inline void keep(OwnVariant& kept, const Grid& value) { fromGrid(value, *kept.get()); }
 
 inline short handOver(short kept) { return kept; }
 inline float handOver(float kept) { return kept; }

@@ -44,6 +44,12 @@ void confirmComponents(Smes& smes, const Variant& numbers) {
     smes.mZadSmes_SZavrit(chosen);
 }
 
+// The answer has the shape of the arrays.
+Grid tabulate(Smes& smes, const std::string& name, const Variant& X, const Grid& T, const Grid& P) {
+    if (T.isArray() && P.isArray() && !haveOneShape(T, P)) checked::raise(RunTimeError::kSubscript);
+    return {(T.isArray() ? T : P).bounds, smes.Tabulka(name, X, T.values, P.values)};
+}
+
 class SmesObject final : public ISmes, public ISupportErrorInfo {
   public:
     // ---- The object ----------------------------------------------------------------------------------------------
@@ -331,6 +337,10 @@ class SmesObject final : public ISmes, public ISupportErrorInfo {
 
     STDMETHODIMP Vlastnost(BSTR Name, VARIANT X, VARIANT T, VARIANT P, VARIANT* result) override {
         return answer(result, &Smes::Vlastnost, Name, X, T, P);
+    }
+
+    STDMETHODIMP Tabulka(BSTR Name, VARIANT X, VARIANT T, VARIANT P, VARIANT* result) override {
+        return answer(result, tabulate, Name, X, Ranged{T}, Ranged{P});
     }
 
     STDMETHODIMP get_Tichy(short* result) override { return answer(result, kTichy); }

@@ -98,33 +98,55 @@ Bounds boundsOf(SAFEARRAY* array) {
     return rows;
 }
 
-Variant arrayOf(SAFEARRAY* array, VARTYPE type, int nesting) {
-    if (array == nullptr) return Variant::array(0, {});  // declared, but not yet sized
+// So many from the first as they lie in memory.
+std::vector<Variant> elementsOf(SAFEARRAY* array, VARTYPE type, std::size_t count, int nesting) {
     if (!holds(array, type)) raiseTypeMismatch();
-    const auto [first, last] = boundsOf(array);
     void* data = nullptr;
     check(SafeArrayAccessData(array, &data));
     const ArrayAccess access(array);
     const std::size_t size = SafeArrayGetElemsize(array);
     std::vector<Variant> elements;
-    elements.reserve(static_cast<std::size_t>(last - first) + 1);
-    for (LONG i = 0; i <= last - first; ++i) {
+    elements.reserve(count);
+    for (std::size_t i = 0; i < count; ++i) {
         VARIANT element{};
         element.vt = static_cast<VARTYPE>(type | VT_BYREF);
-        element.byref = static_cast<char*>(data) + static_cast<std::size_t>(i) * size;
+        element.byref = static_cast<char*>(data) + i * size;
         elements.push_back(valueOf(element, nesting));
     }
-    return Variant::array(first, std::move(elements));
+    return elements;
+}
+
+Variant arrayOf(SAFEARRAY* array, VARTYPE type, int nesting) {
+    if (array == nullptr) return Variant::array(0, {});  // declared, but not yet sized
+    const auto [first, last] = boundsOf(array);
+    return Variant::array(first, elementsOf(array, type, static_cast<std::size_t>(last - first + 1), nesting));
+}
+
+Grid gridOfArray(SAFEARRAY* array, VARTYPE type, int nesting) {
+    if (array == nullptr) return {{SAFEARRAYBOUND{}}, Variant::array(1, {})};
+    Grid grid;
+    std::size_t count = 1;
+    for (UINT dimension = 1; dimension <= SafeArrayGetDim(array); ++dimension) {
+        const auto [first, last] = boundsOf(array, dimension);
+        grid.bounds.push_back({static_cast<ULONG>(last - first + 1), first});
+        count *= grid.bounds.back().cElements;
+    }
+    grid.values = Variant::array(1, elementsOf(array, type, count, nesting));
+    return grid;
 }
 
 // An object stands for its default property: a cell for its value.
-Variant defaultPropertyOf(IDispatch* object, int nesting) {
+void readDefaultProperty(IDispatch* object, OwnVariant& result) {
     if (object == nullptr) raiseTypeMismatch();
     DISPPARAMS none{};
-    OwnVariant result;
     if (FAILED(object->Invoke(DISPID_VALUE, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none, result.get(),
                               nullptr, nullptr)))
         raiseTypeMismatch();
+}
+
+Variant defaultPropertyOf(IDispatch* object, int nesting) {
+    OwnVariant result;
+    readDefaultProperty(object, result);
     return valueOf(*result, nesting);
 }
 
@@ -198,6 +220,21 @@ Variant valueOf(const VARIANT& value, int nesting) {
     OwnVariant copy;
     check(VariantCopyInd(copy.get(), readable(value)));
     return directValue(*copy, nesting + 1);
+}
+
+Grid gridOf(const VARIANT& value, int nesting) {
+    if (nesting > kMostNesting) raiseTypeMismatch();
+    const bool isReference = (value.vt & VT_BYREF) != 0;
+    if (isReference && value.byref == nullptr) raiseTypeMismatch();
+    if ((value.vt & VT_ARRAY) != 0) {
+        const auto type = static_cast<VARTYPE>(value.vt & VT_TYPEMASK);
+        return gridOfArray(isReference ? *value.pparray : value.parray, type, nesting + 1);
+    }
+    if (value.vt == (VT_VARIANT | VT_BYREF)) return gridOf(*value.pvarVal, nesting + 1);
+    if (value.vt != VT_DISPATCH) return {{}, valueOf(value, nesting + 1)};
+    OwnVariant content;
+    readDefaultProperty(value.pdispVal, content);
+    return gridOf(*content, nesting + 1);
 }
 
 VARIANT converted(const Variant& value, VARTYPE type) {
@@ -305,6 +342,28 @@ void writeTyped(const Variant& value, VARIANT& reference) {
 }  // namespace
 
 Variant toVariant(const VARIANT& value) { return valueOf(value, 0); }
+
+bool haveOneShape(const Grid& one, const Grid& other) {
+    return std::ranges::equal(one.bounds, other.bounds, {}, &SAFEARRAYBOUND::cElements, &SAFEARRAYBOUND::cElements);
+}
+
+Grid toGrid(const VARIANT& value) { return gridOf(value, 0); }
+
+void fromGrid(const Grid& grid, VARIANT& result) {
+    if (!grid.isArray()) return fromVariant(grid.values, result);
+    std::vector<SAFEARRAYBOUND> bounds = grid.bounds;
+    SafeArray array(SafeArrayCreate(VT_VARIANT, static_cast<UINT>(bounds.size()), bounds.data()));
+    if (!array) throw std::bad_alloc();
+    void* data = nullptr;
+    check(SafeArrayAccessData(array.get(), &data));
+    {
+        const ArrayAccess access(array.get());
+        auto* element = static_cast<VARIANT*>(data);
+        for (int i = 1; i <= grid.values.upperBound(); ++i) fromVariant(grid.values.at(i), *element++);
+    }
+    result.parray = array.release();
+    result.vt = VT_ARRAY | VT_VARIANT;
+}
 
 std::string toText(BSTR text) { return platform::fromWide({text, SysStringLen(text)}); }
 

@@ -4,6 +4,7 @@
 #include <windows.h>
 
 #include <string>
+#include <vector>
 
 #include "com/holders.h"
 #include "velor/variant.h"
@@ -14,6 +15,19 @@ namespace velor::com {
 // beyond 32 bits, currency and decimals become doubles. Arrays of any element type keep their lower bound. Error 13:
 // what has no counterpart, arrays of several dimensions included.
 Variant toVariant(const VARIANT& value);
+
+// An array of any number of dimensions, as a worksheet's range is one of two, or a single value.
+struct Grid {
+    std::vector<SAFEARRAYBOUND> bounds;  // of each dimension; none of a single value
+    Variant values;                      // the value, or all of them from 1 as they lie in memory
+
+    bool isArray() const { return !bounds.empty(); }
+};
+bool haveOneShape(const Grid& one, const Grid& other);
+// As toVariant otherwise.
+Grid toGrid(const VARIANT& value);
+// Fills an empty VARIANT.
+void fromGrid(const Grid& grid, VARIANT& result);
 
 // Fills an empty VARIANT. Arrays hold VARIANTs, as scripting hosts need them.
 void fromVariant(const Variant& value, VARIANT& result);

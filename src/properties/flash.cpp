@@ -77,13 +77,18 @@ void Flash::iterate(double T0) {
 
 FlashSolution Flash::solve(double T0) {
     const auto equilibriumAt = [&](double T) { return equilibrium(T); };
-    if (!adiabatic_) return isothermalFlash(T0, found_.feed, equilibriumAt);
+    FlashSolution solution;
+    if (!adiabatic_) {
+        isothermalFlash(solution, T0, found_.feed, equilibriumAt);
+        return solution;
+    }
     const double H0 = HL(state_, T0, Composition(found_.feed));
     const double start = (found_.bubblePoint + found_.dewPoint) * 0.5;
-    return adiabaticFlash(
-        H0, start, found_.feed, equilibriumAt,
+    adiabaticFlash(
+        solution, H0, start, found_.feed, equilibriumAt,
         [&](double T, const std::vector<double>& x) { return HL(state_, T, Composition(x)); },
         [&](double T, const std::vector<double>& y) { return vapourEnthalpy(T, y); });
+    return solution;
 }
 
 // At a given temperature the K-values stay the same; they are gathered again only for messages that are due.

@@ -7,10 +7,12 @@ namespace velor {
 
 template class BasicPropertyPoint<double>;
 
-std::size_t evaluationIndex(const MixtureProperty& property) {
-    const auto found = std::ranges::find(kEvaluations<double>, property.code, &NamedEvaluation<double>::code);
-    if (found == kEvaluations<double>.end()) checked::raise(RunTimeError::kSubscript);
-    return static_cast<std::size_t>(found - kEvaluations<double>.begin());
+PointProperty::PointProperty(const MixtureProperty& property)
+    : row(property),
+      evaluation(static_cast<std::size_t>(
+          std::ranges::find(kEvaluations<double>, property.code, &NamedEvaluation<double>::code) -
+          kEvaluations<double>.begin())) {
+    if (evaluation == kEvaluations<double>.size()) checked::raise(RunTimeError::kSubscript);
 }
 
 Standing concluded(const MixtureProperty& property, Standing worst, bool isMetastable) {
@@ -19,15 +21,14 @@ Standing concluded(const MixtureProperty& property, Standing worst, bool isMetas
     return property.isIntegral && worst != Standing::InRange ? Standing::Extrapolated : worst;
 }
 
-PropertyValue valueAt(PropertyPoint& point, const MixtureProperty& property, std::size_t evaluation, double T, double P,
-                      bool isVerdictRead) {
+PropertyValue valueAt(PropertyPoint& point, const PointProperty& property, double T, double P, bool isVerdictRead) {
     if (point.isEmpty()) return {Standing::Failed, numbers::kNan};
     try {
-        const double value = point.at(T, P).value(property, kEvaluations<double>[evaluation].function);
+        const double value = point.at(T, P).value(property.row, kEvaluations<double>[property.evaluation].function);
         if (!point.standings().isComputed()) return {point.standings().worst(), numbers::kNan};
         const bool isMetastable =
-            isVerdictRead && isOfGasAtPressure(property) && point.condensing() > Raoult::kMostOfGas;
-        return {concluded(property, point.standings().worst(), isMetastable), value};
+            isVerdictRead && isOfGasAtPressure(property.row) && point.condensing() > Raoult::kMostOfGas;
+        return {concluded(property.row, point.standings().worst(), isMetastable), value};
     } catch (const RunTimeError&) {
         return {Standing::Failed, numbers::kNan};
     }

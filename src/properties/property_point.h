@@ -161,13 +161,17 @@ using Evaluation = Number (BasicPropertyPoint<Number>::*)();
 extern template class BasicPropertyPoint<double>;
 using PropertyPoint = BasicPropertyPoint<double>;
 
-// Which of its properties the row of the catalogue is.
-std::size_t evaluationIndex(const MixtureProperty& property);
+// A row of the catalogue, and which of a point's properties it is.
+struct PointProperty {
+    const MixtureProperty& row;
+    std::size_t evaluation;
+
+    explicit PointProperty(const MixtureProperty& property);
+};
 
 // That property with its verdict at T kelvin and P pascals. The value is NaN where there is none. Whether a gas would
 // condense takes as long as the value of many a property: it is looked at where somebody reads the verdict.
-PropertyValue valueAt(PropertyPoint& point, const MixtureProperty& property, std::size_t evaluation, double T, double P,
-                      bool isVerdictRead);
+PropertyValue valueAt(PropertyPoint& point, const PointProperty& property, double T, double P, bool isVerdictRead);
 
 // The verdict on a value of such components.
 Standing concluded(const MixtureProperty& property, Standing worst, bool isMetastable);

@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <span>
-#include <utility>
 #include <vector>
 
 #include "rules/composition.h"
@@ -72,24 +71,25 @@ FlashStep adiabaticStep(const MaterialBalance& material, const EnergyBalance& en
 // the iteration ends: converged, or after 30 passes, whatever the last of them found.
 bool advance(FlashSolution& solution, const FlashStep& step, double& relaxation);
 
-// The room of an earlier solution is used again.
+// Into a solution that may be an earlier one, whose room is used again.
 template <class Pass>
-FlashSolution iterateFlash(double T, std::size_t components, FlashSolution room, const Pass& pass) {
-    FlashSolution solution;
+void iterateFlash(FlashSolution& solution, double T, std::size_t components, const Pass& pass) {
+    solution.converged = false;
+    solution.passes = 0;
+    solution.V = 1.0;
     solution.T = T;
-    solution.x = std::move(room.x);
-    solution.y = std::move(room.y);
+    solution.materialResidual = solution.energyResidual = 0;
     solution.x.resize(components);
     solution.y.resize(components);
-    for (double relaxation = 0.1;;)
-        if (advance(solution, pass(solution), relaxation)) return solution;
+    double relaxation = 0.1;
+    while (!advance(solution, pass(solution), relaxation)) {
+    }
 }
 
 // At T kelvin. equilibrium(T) gives the K-values, asked for in each pass. Errors: those of a pass.
 template <class EquilibriumAt>
-FlashSolution isothermalFlash(double T, std::span<const double> z, const EquilibriumAt& equilibrium,
-                              FlashSolution room = {}) {
-    return iterateFlash(T, z.size(), std::move(room), [&](FlashSolution& now) {
+void isothermalFlash(FlashSolution& solution, double T, std::span<const double> z, const EquilibriumAt& equilibrium) {
+    iterateFlash(solution, T, z.size(), [&](FlashSolution& now) {
         const MaterialBalance material = splitFeed(now.V, z, equilibrium(now.T), now.x, now.y);
         now.materialResidual = checked::finite(material.residual);
         return isothermalStep(material);
@@ -100,10 +100,10 @@ FlashSolution isothermalFlash(double T, std::span<const double> z, const Equilib
 // liquidEnthalpy(T, x) and vapourEnthalpy(T, y) molar enthalpies from one reference state, J/mol, asked for at T and
 // then at the warmer temperature. Errors: those of a pass, 11 a phase whose fractions sum to 0.
 template <class EquilibriumAt, class LiquidEnthalpy, class VapourEnthalpy>
-FlashSolution adiabaticFlash(double H0, double T, std::span<const double> z, const EquilibriumAt& equilibrium,
-                             const LiquidEnthalpy& liquidEnthalpy, const VapourEnthalpy& vapourEnthalpy,
-                             FlashSolution room = {}) {
-    return iterateFlash(T, z.size(), std::move(room), [&](FlashSolution& now) {
+void adiabaticFlash(FlashSolution& solution, double H0, double T, std::span<const double> z,
+                    const EquilibriumAt& equilibrium, const LiquidEnthalpy& liquidEnthalpy,
+                    const VapourEnthalpy& vapourEnthalpy) {
+    iterateFlash(solution, T, z.size(), [&](FlashSolution& now) {
         const MaterialBalance material = splitFeed(now.V, z, equilibrium(now.T), now.x, now.y);
         now.materialResidual = checked::finite(material.residual);
         normalise(now.x);

@@ -19,8 +19,8 @@ struct Run {
 
 // What a set of instructions can do; false where a value is missing.
 struct LaneFunctions {
-    bool (*mixture)(const PreparedComponents& mixture, std::span<const double> fractions,
-                    const MixtureProperty& property, std::size_t evaluation, const Run& run);
+    bool (*mixture)(const PreparedComponents& mixture, std::span<const double> fractions, const PointProperty& property,
+                    const Run& run);
     bool (*pure)(const PreparedComponent& component, int property, const Run& run);
 };
 

@@ -11,19 +11,19 @@ template <class Instructions>
 class LaneRun {
   public:
     static bool mixture(const PreparedComponents& mixture, std::span<const double> fractions,
-                        const MixtureProperty& property, std::size_t evaluation, const Run& run) {
+                        const PointProperty& property, const Run& run) {
         BasicPropertyPoint<Number> point(mixture, fractions);
-        const Evaluation<Number> evaluate = kEvaluations<Number>[evaluation].function;
-        const bool mayBeMetastable = run.standings && isOfGasAtPressure(property);
+        const Evaluation<Number> evaluate = kEvaluations<Number>[property.evaluation].function;
+        const bool mayBeMetastable = run.standings && isOfGasAtPressure(property.row);
         return inGroups(run, [&](const Number& T, const Number& P, Standing* standings, std::size_t count) {
-            const Number found = point.at(T, P).value(property, evaluate);
+            const Number found = point.at(T, P).value(property.row, evaluate);
             if (!standings) return found;
             double condensing[Number::kCount]{};
             const Number sum = mayBeMetastable ? point.condensing() : Number(0.0);
             sum.store(condensing);
             for (std::size_t lane = 0; lane < count; ++lane)
                 standings[lane] =
-                    concluded(property, point.standings().worst(lane), condensing[lane] > Raoult::kMostOfGas);
+                    concluded(property.row, point.standings().worst(lane), condensing[lane] > Raoult::kMostOfGas);
             return found + 0.0 * sum;
         });
     }

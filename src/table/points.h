@@ -51,13 +51,17 @@ class FractionReader {
     std::array<double, kMostComponents> molarMasses_{};
 };
 
+// How many parts the points are divided into: one a thread, as far as there are points, up to 256.
+inline std::size_t partsOf(std::size_t points, int threads) {
+    constexpr std::size_t kMostThreads = 256;
+    return std::min({static_cast<std::size_t>(std::max(threads, 1)), kMostThreads, points});
+}
+
 // Divides the points evenly among the threads; each takes a run of neighbours.
 template <class Work>
 void divide(std::size_t points, int threads, const Work& work) {
     if (points == 0) return;
-    constexpr std::size_t kMostThreads = 256;
-    const std::size_t wanted = std::min(static_cast<std::size_t>(std::max(threads, 1)), kMostThreads);
-    const std::size_t parts = std::min(wanted, points);
+    const std::size_t parts = partsOf(points, threads);
     std::vector<std::jthread> others;
     for (std::size_t part = 1; part < parts; ++part)
         others.emplace_back(

@@ -110,10 +110,10 @@ void evaluate(const PreparedMixture& mixture, const MixtureProperty& property, s
     requireInside(X, components.components.size(), points);
     const FractionReader reader(components, X);
     const Results results{values, verdicts};
-    const std::size_t evaluation = evaluationIndex(property);
+    const PointProperty pointProperty(property);
     const auto valueOf = [&](std::size_t point, std::span<const double> fractions) {
         PropertyPoint state(components, fractions);
-        return valueAt(state, property, evaluation, temperatures[point], pressures[point], !verdicts.empty());
+        return valueAt(state, pointProperty, temperatures[point], pressures[point], !verdicts.empty());
     };
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
         std::array<double, kMostComponents> x;
@@ -122,7 +122,7 @@ void evaluate(const PreparedMixture& mixture, const MixtureProperty& property, s
             compute(
                 temperatures, pressures, results, from, to,
                 [&](const LaneFunctions& lanes, const Run& run) {
-                    return lanes.mixture(components, fractions, property, evaluation, run);
+                    return lanes.mixture(components, fractions, pointProperty, run);
                 },
                 [&](std::size_t point) { return valueOf(point, fractions); });
             return;

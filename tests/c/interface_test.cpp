@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "velor/table.h"
+#include "velor/flash_table.h"
 #include "velor/velor.h"
 
 namespace {
@@ -52,6 +52,33 @@ TEST_F(CInterface, everyPropertyIsTheTables) {
             EXPECT_EQ(velor_verdict_has_value(verdicts[i]), std::isnan(values[i]) ? 0 : 1) << row.code;
         }
     }
+}
+
+TEST_F(CInterface, aFlashIsTheTables) {
+    const double P = 1e5;
+    const velor_compositions Z = composition();
+    std::vector<double> vapours(8), liquids(8), expected(4), expectedVapours(8);
+    std::vector<int> outcomes(4);
+    velor_flash_results results = VELOR_FLASH_RESULTS_INIT;
+    results.outcomes = outcomes.data();
+    results.vapour_fractions = values.data();
+    results.vapours = vapours.data();
+    results.liquids = liquids.data();
+    results.fraction_count = 8;
+    const auto flashed = [&](int kind) {
+        return velor_flash(mixture, kind, {T.data(), 4}, {&P, 1}, &Z, 4, &results, 2, &error);
+    };
+    EXPECT_EQ(flashed(2), VELOR_WRONG_USE);
+    T[3] = 363;
+    ASSERT_EQ(flashed(VELOR_ISOTHERMAL), VELOR_OK) << error.text;
+    velor::flash(velor::PreparedMixture(VELOR_DATABASE, numbers), velor::FlashKind::Isothermal, T, {&P, 1}, {x}, 4,
+                 {.vapourFractions = expected, .vapours = expectedVapours});
+    EXPECT_EQ(outcomes, (std::vector<int>{VELOR_FLASH_ALL_LIQUID, VELOR_FLASH_ALL_LIQUID, VELOR_FLASH_NONE,
+                                          VELOR_FLASH_CONVERGED}));
+    EXPECT_EQ(values[3], expected[3]);
+    EXPECT_EQ(vapours[7], expectedVapours[7]);
+    results.fraction_count = 7;
+    EXPECT_EQ(flashed(VELOR_ADIABATIC), VELOR_WRONG_USE);
 }
 
 TEST_F(CInterface, theDatabaseTellsWhatItHolds) {

@@ -110,6 +110,19 @@ On Error GoTo 0
 
 ' Nobody in front of it
 s.Tichy = True: s.ChyboveHlasky = 0: v = s.Vlastnost("nic", X, T, P): Check s.Tichy = 1 And Right(s.PosledniHlaska, 5) = ": nic", "Tichy"
+
+' Many points: a range of a worksheet in, one of its shape out
+Dim TT(1, 2), PP(1, 2), k
+For i = 0 To 1: For k = 0 To 2: TT(i, k) = 300 + 10 * i + k: PP(i, k) = 100000 * (1 + k): Next: Next
+TT(1, 1) = Empty
+v = s.Tabulka("rroGW", X, TT, PP): Check UBound(v) = 1 And UBound(v, 2) = 2 And IsEmpty(v(1, 1)), "Tabulka"
+Near v(1, 2), s.RROGW(312, 300000, X), "Tabulka(1, 2)": Near v(0, 1), s.RROGW(301, 200000, X), "Tabulka(0, 1)"
+Near s.Tabulka("TENS", X, 300), s.TENS(300, X), "Tabulka without P"
+v = s.Tabulka("TENS", X, Array(300, "x")): Check IsEmpty(v(1)) And v(0) > 0, "Tabulka of a list"
+On Error Resume Next
+Err.Clear: v = s.Tabulka("nic", X, TT): Check Err.Number = 5, "unknown property " & Err.Number
+Err.Clear: v = s.Tabulka("ROGW", X, TT, Array(1, 2, 3, 4, 5, 6)): Check Err.Number = 9, "shapes " & Err.Number
+On Error GoTo 0
 Set s = Nothing
 WScript.Echo "HOTOVO"
 WScript.Quit failures

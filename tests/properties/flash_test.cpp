@@ -61,9 +61,8 @@ struct Ideal {
 TEST(FlashRule, endsAfterThirtyPasses) {
     const std::vector<double> z{0.5, 0.5}, K{2.0, 0.5}, other{3.0, 0.6};
     int passes = 0;
-    const FlashSolution solution = isothermalFlash(350.0, z, [&](double) {
-        return Equilibrium{++passes % 2 ? K : other, {}};
-    });
+    FlashSolution solution;
+    isothermalFlash(solution, 350.0, z, [&](double) { return Equilibrium{++passes % 2 ? K : other, {}}; });
     EXPECT_FALSE(solution.converged);
     EXPECT_EQ(solution.passes, 30);
     EXPECT_EQ(passes, 30);

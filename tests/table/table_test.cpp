@@ -152,5 +152,42 @@ TEST(Table, whatDoesNotFitIsRefusedBeforeAnythingIsComputed) {
     EXPECT_THROW(evaluate(mixture, pureProperties()[0], 3, std::span(three).first(2), two, {}), RunTimeError);
 }
 
+// The object's own table: of what it holds now, silent, and empty where there is no value.
+TEST(Table, ofAnObjectFollowsWhatItHolds) {
+    RealMixture object({64175, 7732185});
+    Smes& smes = object.smes;
+    const Variant X = Fractions({0.4, 0.6});
+    smes.Inivlr();
+    smes.Bod(1, 2, 900);
+    smes.Redlich(1);
+    const Variant T = List({300.0, Variant(), "teplo", "320,5"});
+    for (const char* name : {"tens", "RROGW"}) {
+        const Variant found = smes.Tabulka(name, X, T, 2e5);
+        ASSERT_EQ(found.upperBound(), 3);
+        EXPECT_TRUE(found.at(1).isEmpty() && found.at(2).isEmpty());
+        for (const int i : {0, 3}) {
+            const double expected = smes.Vlastnost(name, X, T.at(i), 2e5).toDouble();
+            EXPECT_NEAR(found.at(i).toDouble(), expected, 1e-12 * expected) << name;
+        }
+    }
+    EXPECT_EQ(smes.Tabulka("VSM", X, 0), smes.VSM(X));
+    EXPECT_EQ(smes.Tabulka("TBV", X, Variant(), Numbers(std::vector{1e5, 0.0})).at(2), Variant());
+    const auto errorOf = [&](const char* name, const Variant& t, const Variant& p) {
+        try {
+            smes.Tabulka(name, X, t, p);
+        } catch (const RunTimeError& error) {
+            return error.number();
+        }
+        return 0;
+    };
+    EXPECT_EQ(errorOf("nic", T, 1e5), RunTimeError::kInvalidCall);
+    EXPECT_EQ(errorOf("ROGW", T, Numbers(std::vector{1.0, 2.0})), RunTimeError::kSubscript);
+    EXPECT_EQ(errorOf("ROGW", T, Variant::missing()), RunTimeError::kTypeMismatch);
+    smes.ZapisNslozky(2, 899);
+    EXPECT_TRUE(smes.Tabulka("TENS", X, 300).isEmpty());
+    EXPECT_NE(smes.PosledniHlaska(), "");
+    EXPECT_TRUE(object.boxes.messages.empty());
+}
+
 }  // namespace
 }  // namespace velor::test
