@@ -126,6 +126,17 @@ def test_equilibrium_meets_its_law(mixture):
     assert (diagram.bubble <= diagram.dew).all() and (np.diff(diagram.y) > 0).all()
 
 
+def test_flashes_keep_what_goes_in():
+    feed = velor.Mixture(["pentan", "hexan", "heptan"], mole=[0.3, 0.3, 0.4])
+    both = feed.flash(np.linspace(320, 370, 11)[:, None], [1e5, 1.2e5])
+    assert both.outcome.shape == (11, 2) and set(both.outcome.ravel()) == {"liquid", "both", "vapour"}
+    vapour = both.vapour_fraction[..., None]
+    np.testing.assert_allclose(vapour * both.vapour + (1 - vapour) * both.liquid, feed.mole + 0 * vapour, atol=1e-3)
+    cooled = feed.flash(380, 101325, adiabatic=True)
+    assert cooled.outcome == "both" and cooled.bubble < cooled.T < cooled.dew and cooled.passes > 0
+    assert feed.flash(np.empty(0)).liquid.shape == (0, 3) and feed.flash(np.nan).outcome == "none"
+
+
 def test_units_go_in_and_out(mixture):
     pint = pytest.importorskip("pint")
     u = pint.UnitRegistry()

@@ -12,7 +12,7 @@ Examples
 """
 
 from ._catalogue import Catalogue, Property, properties, pure_properties
-from ._equilibrium import SaturationPoint, Txy
+from ._equilibrium import Flash, SaturationPoint, Txy
 from ._errors import (
     ClosedError,
     DatabaseError,
@@ -40,6 +40,7 @@ __all__ = [
     "Database",
     "DatabaseError",
     "Error",
+    "Flash",
     "LibraryError",
     "Mixture",
     "NoMemoryError",

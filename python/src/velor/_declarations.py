@@ -71,6 +71,27 @@ class CCompositions(Structure):
     ]
 
 
+class CFlashResults(Structure):
+    _fields_ = [
+        ("size", c_size_t),
+        ("outcomes", c_void_p),
+        ("verdicts", c_void_p),
+        ("passes", c_void_p),
+        ("vapour_fractions", c_void_p),
+        ("temperatures", c_void_p),
+        ("bubble_points", c_void_p),
+        ("dew_points", c_void_p),
+        ("material_residuals", c_void_p),
+        ("energy_residuals", c_void_p),
+        ("liquids", c_void_p),
+        ("vapours", c_void_p),
+        ("equilibriums", c_void_p),
+        ("fraction_count", c_size_t),
+        ("component_stride", c_ssize_t),
+        ("point_stride", c_ssize_t),
+    ]
+
+
 _INDEX = (c_int,)
 _FIND = (c_void_p, c_char_p, POINTER(c_int), POINTER(c_int), c_int, POINTER(c_int), POINTER(CError))
 _RESULTS = (c_size_t, c_void_p, c_void_p, c_int, POINTER(CError))
@@ -102,6 +123,11 @@ _FUNCTIONS: Dict[str, Tuple[Optional[Type[Any]], Tuple[Any, ...]]] = {
     "velor_mixture_free": (None, (c_void_p,)),
     "velor_evaluate": (c_int, (c_void_p, c_int, CSeries, CSeries, POINTER(CCompositions)) + _RESULTS),
     "velor_evaluate_pure": (c_int, (c_void_p, c_int, c_int, CSeries) + _RESULTS),
+    "velor_flash": (
+        c_int,
+        (c_void_p, c_int, CSeries, CSeries, POINTER(CCompositions), c_size_t, POINTER(CFlashResults), c_int)
+        + (POINTER(CError),),
+    ),
 }
 
 

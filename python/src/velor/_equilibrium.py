@@ -1,4 +1,5 @@
-"""Bubble and dew points with the composition of the other phase. Methods of a mixture: the class takes them over."""
+"""Flashes, bubble and dew points with the composition of the other phase. Methods of a mixture: the class takes them
+over."""
 
 from __future__ import annotations
 
@@ -63,6 +64,93 @@ class Txy:
     dew: Values
     bubble_verdicts: Verdicts
     dew_verdicts: Verdicts
+
+
+@dataclass(frozen=True)
+class Flash:
+    """What became of a feed: an array element for each point, or one number for one point.
+
+    Attributes
+    ----------
+    outcome : str or ndarray of str
+        "vapour", "liquid", "both" phases, "diverged" or "none", for which the verdict says why.
+    verdict : Verdict or Verdicts
+        The worst of the vapour pressures and enthalpies.
+    T : float, ndarray or quantity
+        Temperature after the flash [K].
+    vapour_fraction : float or ndarray
+        Moles of vapour per mole of feed.
+    liquid, vapour, K : ndarray
+        Mole fractions, 0 in a phase that is not there, and K = y / x; along the last axis.
+    bubble, dew : float, ndarray or quantity
+        Bubble and dew point of the feed [K].
+    passes : int or ndarray
+        Of the iteration; 0 where there was none.
+    material_residual, energy_residual : float or ndarray
+        sum(x (1 - K)), and of an adiabatic flash J/mol, as the last pass found them.
+    """
+
+    outcome: Any
+    verdict: Union[Verdict, Verdicts]
+    T: Any
+    vapour_fraction: Any
+    liquid: Values
+    vapour: Values
+    K: Values
+    bubble: Any
+    dew: Any
+    passes: Any
+    material_residual: Any
+    energy_residual: Any
+
+
+OUTCOMES = np.array(["none", "vapour", "liquid", "both", "diverged"])
+
+
+def flash(mixture: Mixture, T: Any, P: Any = ATMOSPHERE, *, adiabatic: bool = False) -> Flash:
+    """Flash the mixture as a feed, by Raoult's law.
+
+    Parameters
+    ----------
+    T : array_like or quantity
+        Temperature [K]; of an adiabatic flash that of the liquid feed.
+    P : array_like or quantity
+        Pressure after the flash [Pa].
+    adiabatic : bool
+        The feed's enthalpy is kept in place of the temperature.
+
+    Returns
+    -------
+    Flash
+
+    Examples
+    --------
+    >>> import velor
+    >>> m = velor.Mixture(["pentan", "hexan", "heptan"], mole=[0.3, 0.3, 0.4])
+    >>> result = m.flash(340, 101325)
+    >>> result.outcome, round(result.vapour_fraction, 4), result.vapour.round(4)
+    ('both', 0.2717, array([0.5405, 0.2871, 0.1725]))
+    """
+    edge = Edge()
+    temperatures, pressures = edge.take(T, "K", "T"), edge.take(P, "Pa", "P")
+    found = mixture._flashed(bool(adiabatic), temperatures, pressures)
+    warn_of({"flash": found["verdicts"]})
+    plain = Edge()
+    outcomes, passes = OUTCOMES[found["outcomes"]], found["passes"]
+    return Flash(
+        outcome=str(outcomes) if outcomes.ndim == 0 else outcomes,
+        verdict=verdicts_of(found["verdicts"]),
+        T=edge.give(found["temperatures"], "K"),
+        vapour_fraction=plain.give(found["vapour_fractions"], ""),
+        liquid=found["liquids"],
+        vapour=found["vapours"],
+        K=found["equilibriums"],
+        bubble=edge.give(found["bubble_points"], "K"),
+        dew=edge.give(found["dew_points"], "K"),
+        passes=int(passes) if passes.ndim == 0 else passes,
+        material_residual=plain.give(found["material_residuals"], ""),
+        energy_residual=plain.give(found["energy_residuals"], "J/mol"),
+    )
 
 
 def bubble_point(mixture: Mixture, P: Any = ATMOSPHERE) -> SaturationPoint:

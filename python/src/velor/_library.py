@@ -20,6 +20,7 @@ from ._declarations import (
     WRONG_USE,
     CCompositions,
     CError,
+    CFlashResults,
     CSeries,
     CSettings,
     load,
@@ -35,6 +36,17 @@ Values = NDArray[np.float64]
 Codes = NDArray[np.int8]
 
 _BLOCK = 1 << 16
+
+_FLASH_NUMBERS = ("outcomes", "verdicts", "passes")
+_FLASH_VALUES = (
+    "vapour_fractions",
+    "temperatures",
+    "bubble_points",
+    "dew_points",
+    "material_residuals",
+    "energy_residuals",
+)
+_FLASH_FRACTIONS = ("liquids", "vapours", "equilibriums")
 
 
 class Handle:
@@ -167,6 +179,38 @@ class Library:
             self._checked("velor_evaluate_pure", mixture.pointer, property_index, component, T, count, *results)
 
         return _in_blocks(compute, points, threads)
+
+    def flash(
+        self,
+        mixture: Handle,
+        adiabatic: bool,
+        temperatures: Values,
+        pressures: Values,
+        feeds: Fractions,
+        points: int,
+        components: int,
+        threads: int,
+    ) -> Dict[str, NDArray[Any]]:
+        """The arrays of velor_flash_results by their names, fractions of shape (points, components)."""
+        found: Dict[str, NDArray[Any]] = {name: np.empty(points, np.intc) for name in _FLASH_NUMBERS}
+        found.update({name: np.empty(points) for name in _FLASH_VALUES})
+        found.update({name: np.empty((points, components)) for name in _FLASH_FRACTIONS})
+        results, all_points = CFlashResults(sizeof(CFlashResults)), slice(None)
+        for name, array in found.items():
+            setattr(results, name, array.ctypes.data)
+        results.fraction_count, results.component_stride, results.point_stride = points * components, 1, components
+        self._checked(
+            "velor_flash",
+            mixture.pointer,
+            adiabatic,
+            _series(temperatures, all_points),
+            _series(pressures, all_points),
+            byref(feeds.of(all_points)),
+            points,
+            byref(results),
+            threads,
+        )
+        return found
 
 
 def _series(values: Values, block: slice) -> CSeries:

@@ -9,6 +9,7 @@ from dataclasses import dataclass
 from typing import Any, Dict, Iterable, Optional, Tuple, Union
 
 import numpy as np
+from numpy.typing import NDArray
 
 from . import _equilibrium, _errors, _plots, _tables
 from ._arrays import Edge, Shape, common_shape, spread
@@ -206,6 +207,7 @@ class Mixture(MixtureProperties):
         other._composition = self._checked(mole, mass, normalised)
         return other
 
+    flash = _equilibrium.flash
     bubble_point = _equilibrium.bubble_point
     dew_point = _equilibrium.dew_point
     txy = _equilibrium.txy
@@ -275,6 +277,16 @@ class Mixture(MixtureProperties):
             self.threads,
         )
         return values.reshape(shape), codes.reshape(shape)
+
+    def _flashed(self, adiabatic: bool, T: Values, P: Values) -> Dict[str, NDArray[Any]]:
+        """What the library's flash gives at T [K] and P [Pa], in the shape of the points."""
+        shape = common_shape(T=T.shape, P=P.shape, složení=self.shape)
+        feeds, points = self._composition.of_points(shape), math.prod(shape)
+        current, handle = self._prepared.get()
+        found = current.flash(
+            handle, adiabatic, spread(T, shape), spread(P, shape), feeds, points, len(self._substances), self.threads
+        )
+        return {name: array.reshape(shape + array.shape[1:]) for name, array in found.items()}
 
     def _evaluate(self, code: str, T: Any, P: Any, with_verdict: bool) -> Any:
         row, edge = properties[code], Edge()
