@@ -93,6 +93,7 @@ class Library:
         except (OSError, AttributeError) as fault:
             raise _errors.LibraryError(f"Knihovnu {path} nelze načíst: {fault}") from fault
         self._databases: Dict[str, Handle] = {}
+        self.substances: Dict[str, Any] = {}  # what was read of each database, by its path
 
     def call(self, name: str, *arguments: Any) -> Any:
         """A function that cannot fail."""
@@ -263,7 +264,7 @@ def close() -> None:
     """Let go of all databases and prepared mixtures.
 
     What is computing ends as it should; whatever is asked for later raises :class:`ClosedError`. After :func:`open`
-    every mixture works again, with databases as they are on the disk then.
+    every mixture works again, with databases as they are on the disk then. Until then it keeps its own constants.
     """
     global _current, _is_closed
     _is_closed = True

@@ -5,6 +5,7 @@ from __future__ import annotations
 import copy
 import math
 import os
+import weakref
 from dataclasses import dataclass
 from typing import Any, Dict, Iterable, Optional, Tuple, Union
 
@@ -39,15 +40,16 @@ class _Prepared:
 
     def __init__(self, definition: _Definition) -> None:
         self._definition = definition
-        self._made: Optional[Tuple[Library, Handle]] = None
+        self._made: Optional[Tuple[weakref.ref[Library], Handle]] = None
 
     def get(self) -> Tuple[Library, Handle]:
         current, made = library(), self._made
-        if made is None or made[0] is not current:
+        if made is None or made[0]() is not current:
             wanted = self._definition
             database = current.database(wanted.database.path)
-            made = self._made = current, current.mixture(database, wanted.numbers, wanted.soave, wanted.clamped)
-        return made
+            handle = current.mixture(database, wanted.numbers, wanted.soave, wanted.clamped)
+            made = self._made = weakref.ref(current), handle
+        return current, made[1]
 
     def __reduce__(self) -> Tuple[Any, ...]:
         return _Prepared, (self._definition,)

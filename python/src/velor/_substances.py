@@ -96,7 +96,6 @@ class Database:
 
     def __init__(self, path: Optional[Union[str, os.PathLike[str]]] = None) -> None:
         self._given = None if path is None else os.path.abspath(path)
-        self._read: Optional[Tuple[Handle, List[Substance]]] = None
 
     @property
     def path(self) -> str:
@@ -167,11 +166,12 @@ class Database:
         return library().database(self.path)
 
     def _rows(self) -> List[Substance]:
-        handle = self._handle()
-        if self._read is None or self._read[0] is not handle:
-            count = library().call("velor_database_count", handle.pointer)
-            self._read = handle, [self._row(handle, index) for index in range(count)]
-        return self._read[1]
+        current, handle = library(), self._handle()
+        if self.path not in current.substances:
+            count = current.call("velor_database_count", handle.pointer)
+            current.substances[self.path] = [self._row(handle, index) for index in range(count)]
+        rows: List[Substance] = current.substances[self.path]
+        return rows
 
     def _row(self, handle: Handle, index: int) -> Substance:
         row = sized(CSubstance)
