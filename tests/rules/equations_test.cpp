@@ -115,7 +115,7 @@ TEST(WaterDensity, agreesWithTheSaturatedLiquidOfIapws) {
     EXPECT_NEAR(waterDensity(647.096), 322, 1e-9);
     // The whole sum in 40-digit arithmetic.
     EXPECT_NEAR(waterDensity(298.15), 996.99933076296560797, 1e-10);
-    EXPECT_NEAR(waterDensity(640), 481.94520478473767280, 1e-9);
+    EXPECT_NEAR(waterDensity(640.0), 481.94520478473767280, 1e-9);
     EXPECT_THROW(waterDensity(647.1), RunTimeError);
 }
 
