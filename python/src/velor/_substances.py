@@ -90,8 +90,8 @@ class Database:
     'Voda'
     >>> [substance.name for substance in velor.substances.search("xylen")][:3]
     ['o-Xylen', 'm-Xylen', 'p-Xylen']
-    >>> round(velor.substances["64-17-5"].constants["Tkr"], 1)
-    513.9
+    >>> round(velor.substances["7732-18-5"].constants["Tkr"], 1)
+    647.1
     """
 
     def __init__(self, path: Optional[Union[str, os.PathLike[str]]] = None) -> None:
