@@ -22,7 +22,7 @@ def platform_tag(library):
     if content.startswith(b"MZ"):
         (header,) = struct.unpack_from("<I", content, 0x3C)
         return PE_MACHINES[struct.unpack_from("<H", content, header + 4)[0]]
-    if b"GLIBCXX_" in content:
+    if re.search(rb"\bGLIBCXX_\d", content):
         sys.exit(f"{library} needs the C++ library of the system, which no tag of a wheel promises")
     newest = max(tuple(map(int, version)) for version in re.findall(rb"\bGLIBC_(\d+)\.(\d+)", content))
     machine = ELF_MACHINES[struct.unpack_from("<H", content, 18)[0]]
