@@ -35,7 +35,7 @@ def test_a_worker_that_dies_takes_nothing_with_it(start, tmp_path):
     place = tmp_path / "scheduler.json"
     local = ("--host", "127.0.0.1", "--no-dashboard", "--scheduler-file", str(place))
     start("-m", "distributed.cli.dask_scheduler", "--port", "0", *local, stderr=subprocess.DEVNULL)
-    while not place.exists():
+    while not (place.exists() and place.read_text().endswith("}")):  # it is whole
         time.sleep(0.1)
     address = json.loads(place.read_text())["address"]
     worker = ("-m", "distributed.cli.dask_worker", address, "--no-nanny", "--nthreads", "1", "--no-dashboard")
