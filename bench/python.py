@@ -69,7 +69,7 @@ def main():
     few = T[:: max(given.points // 1000, 1)]
     pure, pair = velor.Mixture("ethanol"), velor.Mixture(["voda", "ethanol"], mole=[0.4, 0.6])
     assert np.allclose(formula(few), pure.TENS(few), rtol=1e-6)
-    print(f"{'':48}{'ns/point':>10}{'ratio':>8}")
+    print(f"{'':48}{'ns/point':>12}{'ratio':>10}")
     for name, mixture in (("ethanol", pure), ("voda + ethanol", pair)):
         works = {"C call": c_call(mixture, "TENS", T), "m.TENS(T)": lambda: mixture.TENS(T),
                  "numpy formula of ethanol": lambda: formula(T),
@@ -77,7 +77,7 @@ def main():
         times = {what: each / T.size for what, each in least(given.rounds, works).items()}
         times["Python loop"] = least(1, {"": lambda: [mixture.TENS(one) for one in few]})[""] / few.size
         for what, each in times.items():
-            print(f"{name if what == 'C call' else '':16}{what:32}{each:10.1f}{each / times['C call']:8.2f}")
+            print(f"{name if what == 'C call' else '':16}{what:32}{each:12.1f}{each / times['C call']:10.2f}")
         gain = 2 * times["m.TENS(T)"] / times["two threads, one m.TENS(T) each"]
         print(f"{'':16}two threads do {gain:.2f} times as much as one")
 
