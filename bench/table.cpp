@@ -70,17 +70,18 @@ States flashStates(const Table& table, const Points& P, FlashKind kind) {
     return states;
 }
 
-void compareFlashes(const std::string& task, const Table& table, const Points& P, FlashKind kind) {
+// The object writes its report, which the table spares; both solve the same passes.
+void compareFlashes(const std::string& task, const Table& table, const Points& pressures, FlashKind kind) {
     compareArrays(
-        task, 0.34, flashStates(table, P, kind),
+        task, kind == FlashKind::Isothermal ? 0.6 : 0.75, flashStates(table, pressures, kind),
         [table, kind](const States& at, Points& values) {
             flash(table.prepared, kind, at.T, at.P, {table.mixture->fractions}, kPoints, {.vapourFractions = values});
         },
         [table, kind](const States& at, Points& values) {
             for (std::size_t k = 0; k < kPoints; ++k) {
-                Variant T = at.T[k], P = at.P[k];
+                Variant kelvin = at.T[k], pascals = at.P[k];
                 benchmark::DoNotOptimize(
-                    table.mixture->smes.FLASH(kind == FlashKind::Adiabatic ? 1 : 0, T, P, table.mixture->X));
+                    table.mixture->smes.FLASH(kind == FlashKind::Adiabatic ? 1 : 0, kelvin, pascals, table.mixture->X));
                 values[k] = table.mixture->smes.lastFlash().vapourFraction;
             }
         },

@@ -39,5 +39,7 @@ build() {
 }
 
 needed_to_build=(g++ cmake ninja-build libncurses-dev libcli11-dev libeigen3-dev nlohmann-json3-dev libgtest-dev gnuplot-nox)
+needed_for_python=(python3-setuptools python3-wheel python3-pip python3-venv python3-numpy python3-pandas python3-matplotlib
+    python3-pint python3-distributed python3-nbclient python3-ipykernel python3-pytest mypy)
 needed_for_windows=(g++-mingw-w64-x86-64-posix g++-mingw-w64-i686-posix mingw-w64-tools googletest libwine-dev wine64 xvfb
     xauth fonts-wine fonts-liberation zip unzip)

@@ -26,7 +26,7 @@ inline constexpr std::size_t kMostComponents = 20;
 struct PreparedComponents {
     ComponentSettings settings;
     std::vector<PreparedComponent> components;
-    std::vector<EstimatedProperties> estimated = {};  // of each component; none where none has any
+    std::vector<EstimatedProperties> estimated = {};  // of each component; none where nothing is told of them
     std::vector<PairFactor> pairs;  // of the gas's conductivity, by rows; none where a molar mass is missing
 };
 

@@ -30,6 +30,24 @@ Number volumeOf(const Number& T, const Number& p, const BasicCubicParameters<Num
     return gasVolumes(T, p, mixture);
 }
 
+// Alone the whole state is solved, as by the object: where a part of it does not exist nothing does.
+inline double residualEnthalpyOf(double T, double p, double V, const CubicParameters& mixture) {
+    return residualState(T, p, V, mixture).enthalpy;
+}
+inline double residualEntropyOf(double T, double p, double V, const CubicParameters& mixture) {
+    return residualState(T, p, V, mixture).entropy;
+}
+template <class Number>
+Number residualEnthalpyOf(const Number& T, const Number& p, const Number& V,
+                          const BasicCubicParameters<Number>& mixture) {
+    return residualEnthalpy(T, p, V, mixture);
+}
+template <class Number>
+Number residualEntropyOf(const Number& T, const Number& p, const Number& V,
+                         const BasicCubicParameters<Number>& mixture) {
+    return residualEntropy(T, p, V, mixture);
+}
+
 inline double enthalpyOf(const HeatCapacityIntegral& Cp, const Temperature& T) { return Cp.enthalpy(T); }
 inline double entropyOf(const HeatCapacityIntegral& Cp, const Temperature& T) { return Cp.entropy(T, T.logarithm()); }
 template <class Number>
@@ -374,7 +392,7 @@ template <class Number>
 Number BasicPropertyPoint<Number>::enthalpy(const DenseGas& gas) const {
     const Number ideal =
         referenced(&GasReference::enthalpy, [&](const HeatCapacityIntegral& Cp) { return point::enthalpyOf(Cp, T_); });
-    return ideal + residualEnthalpy(T_.kelvin(), gas.p, gas.V, gas.parameters);
+    return ideal + point::residualEnthalpyOf(T_.kelvin(), gas.p, gas.V, gas.parameters);
 }
 
 template <class Number>
@@ -404,7 +422,7 @@ Number BasicPropertyPoint<Number>::RSG() {
         referenced(&GasReference::entropy, [&](const HeatCapacityIntegral& Cp) { return point::entropyOf(Cp, T_); });
     for (const double fraction : x()) sum -= fraction * kGasConstant * naturalLogarithm(fraction);
     return sum - kGasConstant * naturalLogarithm(gas.p / point::kReferencePressure) +
-           residualEntropy(T_.kelvin(), gas.p, gas.V, gas.parameters);
+           point::residualEntropyOf(T_.kelvin(), gas.p, gas.V, gas.parameters);
 }
 template <class Number>
 Number BasicPropertyPoint<Number>::RSGW() {

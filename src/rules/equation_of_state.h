@@ -88,7 +88,8 @@ struct CubicVolume {
 // method from RT/p + b, at most 30 steps, until the change falls below 0.01 cm3/mol. Errors: 11 p = 0, 5 p < 0.
 CubicVolume gasVolume(double T, double p, const CubicParameters& mixture);
 
-// The same of several points; those whose descent leaves the bracket are NaN.
+// The same of several points. NaN are those whose descent leaves the bracket, and volumes so small or great that other
+// quantities of the state may not exist.
 template <class Number>
 Number gasVolumes(const Number& T, const Number& p, const BasicCubicParameters<Number>& mixture) {
     using namespace numbers;
@@ -105,7 +106,8 @@ Number gasVolumes(const Number& T, const Number& p, const BasicCubicParameters<N
         V = select(isMoving, select(isInside, next, kNan), V);
         isMoving = goesOn;
     }
-    return V;
+    constexpr double kLeastFree = 1e-6, kMost = 1e60;
+    return select((V - mixture.b > kLeastFree * mixture.b) & (V < kMost), V, kNan);
 }
 
 // Residual quantities at T, p and the volume that belongs to them.

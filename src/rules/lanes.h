@@ -75,7 +75,6 @@ class Lanes {
     Lanes& operator+=(const Lanes& other) { return *this = *this + other; }
     Lanes& operator-=(const Lanes& other) { return *this = *this - other; }
     Lanes& operator*=(const Lanes& other) { return *this = *this * other; }
-    Lanes& operator/=(const Lanes& other) { return *this = *this / other; }
 
     friend Mask operator<(const Lanes& a, const Lanes& b) {
         return compare(a, b, [](Register x, Register y) { return x < y; });

@@ -81,8 +81,12 @@ Standing FlashPoint::compute() {
     if (!isAdiabatic() && isAllVapour(dew)) return finishTrivially(FlashOutcome::AllVapour, 1.0, vapourVerdict(dew));
     if (T0_ < found_.bubblePoint) return finishTrivially(FlashOutcome::AllLiquid, 0.0, bubble.standing);
     if (!isAdiabatic()) return iterate(T0_);
-    if (bubble.isComputed() && dew.isComputed()) return iterate((bubble.value + dew.value) * 0.5);
-    return iterate(bubble.isComputed() ? bubble.value : found_.dewPoint);
+    const double sum = found_.bubblePoint + found_.dewPoint;
+    if (!(sum > 0)) {
+        found_.outcome = FlashOutcome::NotConverged;  // there is nothing to begin with
+        return Standing::Diverged;
+    }
+    return iterate(bubble.isComputed() && dew.isComputed() ? sum * 0.5 : sum);
 }
 
 bool FlashPoint::isAllVapour(const PropertyValue& dew) const {

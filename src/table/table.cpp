@@ -78,28 +78,25 @@ struct Results {
         if (!values.empty()) values[point] = found.isComputed() ? found.value : kNone;
         if (!verdicts.empty()) verdicts[point] = found.standing;
     }
+
+    // Where there is nothing else to say of a value that rests on an estimate.
+    void markEstimates(std::size_t from, std::size_t to) const {
+        if (!verdicts.empty())
+            std::ranges::replace(verdicts.subspan(from, to - from), Standing::InRange, Standing::Estimated);
+    }
 };
 
-// Says of values in range that they rest on an estimate, where a component that is there has one.
-class EstimateRemarks {
-  public:
-    EstimateRemarks(const PreparedComponents& mixture, Correlations correlations) {
-        for (const EstimatedProperties& one : mixture.estimated) isEstimated_.push_back(isAmong(correlations, one));
-        if (std::ranges::none_of(isEstimated_, [](bool estimated) { return estimated; })) isEstimated_.clear();
-    }
-    bool areNeeded() const { return !isEstimated_.empty(); }
-    bool isOf(std::size_t component) const { return areNeeded() && isEstimated_[component]; }
-    bool isAmongPresent(std::span<const double> fractions) const {
-        for (std::size_t i = 0; i < isEstimated_.size(); ++i)
-            if (isEstimated_[i] && fractions[i] > 0) return true;
-        return false;
-    }
+bool isEstimated(const PreparedComponents& mixture, std::size_t component, Correlations correlations) {
+    return !mixture.estimated.empty() && isAmong(correlations, mixture.estimated[component]);
+}
 
-  private:
-    std::vector<bool> isEstimated_;  // of each component; none where none is
-};
-
-void remark(std::span<Standing> verdicts) { std::ranges::replace(verdicts, Standing::InRange, Standing::Estimated); }
+// Whether a correlation of a component that is there is an estimate.
+bool restsOnEstimates(const PreparedComponents& mixture, std::span<const double> fractions,
+                      const MixtureProperty& property) {
+    for (std::size_t i = 0; i < fractions.size(); ++i)
+        if (fractions[i] > 0 && isEstimated(mixture, i, property.correlations)) return true;
+    return false;
+}
 
 // Computes neighbouring points: side by side by lanes(functions, run), and those without a value there by alone(point).
 template <class InLanes, class Alone>
@@ -151,8 +148,6 @@ void evaluate(const PreparedMixture& mixture, const MixtureProperty& property, s
         PropertyPoint state(components, fractions);
         return valueAt(state, pointProperty, temperatures[point], pressures[point], !verdicts.empty());
     };
-    const EstimateRemarks estimates(components, property.correlations);
-    const bool isRemarked = estimates.areNeeded() && !verdicts.empty();
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
         std::array<double, kMostComponents> x;
         const auto fractions = std::span<const double>(x).first(components.components.size());
@@ -163,12 +158,14 @@ void evaluate(const PreparedMixture& mixture, const MixtureProperty& property, s
                     return lanes.mixture(components, fractions, pointProperty, run);
                 },
                 [&](std::size_t point) { return valueOf(point, fractions); });
-            if (isRemarked && estimates.isAmongPresent(fractions)) remark(verdicts.subspan(from, to - from));
+            if (restsOnEstimates(components, fractions, property)) results.markEstimates(from, to);
             return;
         }
         for (std::size_t point = from; point < to; ++point) {
-            results.set(point, reader.read(point, x) ? valueOf(point, fractions) : PropertyValue{Standing::Failed});
-            if (isRemarked && estimates.isAmongPresent(fractions)) remark(verdicts.subspan(point, 1));
+            const bool isComposition = reader.read(point, x);
+            results.set(point, isComposition ? valueOf(point, fractions) : PropertyValue{Standing::Failed});
+            if (isComposition && restsOnEstimates(components, fractions, property))
+                results.markEstimates(point, point + 1);
         }
     });
 }
@@ -181,14 +178,15 @@ void evaluate(const PreparedMixture& mixture, const PureProperty& property, int 
     const std::size_t points = numberOfPoints(values, verdicts);
     const Series temperatures(T, points);
     const Results results{values, verdicts};
+    const bool isEstimate =
+        isEstimated(mixture.components(), static_cast<std::size_t>(component - 1), {property.number});
     divide(points, options.threads, [&](std::size_t from, std::size_t to) {
         compute(
             temperatures, temperatures, results, from, to,
             [&](const LaneFunctions& lanes, const Run& run) { return lanes.pure(one, property.number, run); },
             [&](std::size_t point) { return one.pure(property.number, temperatures[point]); });
+        if (isEstimate) results.markEstimates(from, to);
     });
-    const EstimateRemarks estimates(mixture.components(), {property.number});
-    if (estimates.isOf(static_cast<std::size_t>(component - 1))) remark(verdicts);
 }
 
 }  // namespace velor

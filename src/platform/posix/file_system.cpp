@@ -7,12 +7,12 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdint>
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
 #include <memory>
 #include <optional>
-#include <random>
 #include <utility>
 
 #include "runtime/checked.h"
@@ -139,8 +139,9 @@ class Replacement {
 
   private:
     static std::string freshName(const std::string& path) {
-        std::random_device chance;
-        return path + std::string(kReplacementMark) + std::to_string(chance()) + std::to_string(chance());
+        std::uint32_t chance[2];
+        if (::getentropy(chance, sizeof chance) != 0) checked::raise(RunTimeError::kPathFileAccess);
+        return path + std::string(kReplacementMark) + std::to_string(chance[0]) + std::to_string(chance[1]);
     }
     int create() const {
         const int descriptor = ::open(name_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
