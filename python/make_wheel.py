@@ -37,8 +37,7 @@ def staged(folder, library, catalogue, data, version):
     package = folder / "src" / "velor"
     shutil.copy(library, package)
     for name in ("VELOR.DRC", "VELOR.DOP"):
-        if (data / name).exists() or name == "VELOR.DRC":
-            shutil.copy(data / name, package)
+        shutil.copy(data / name, package)
     write_methods(str(catalogue), package / "_methods.py")
     (package / "_version.py").write_text(f'__version__ = "{version}"\n', encoding="utf-8")
     (folder / "VERSION").write_text(version, encoding="utf-8")
@@ -50,7 +49,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("--library", type=Path, required=True, help="what the wheel carries")
     parser.add_argument("--catalogue", type=Path, required=True, help="a library that runs here, for its catalogue")
-    parser.add_argument("--data", type=Path, required=True, help="the folder of VELOR.DRC")
+    parser.add_argument("--data", type=Path, required=True, help="the folder of VELOR.DRC and VELOR.DOP")
     parser.add_argument("--version", required=True)
     parser.add_argument("--work", type=Path, required=True, help="a folder to stage in; it is emptied")
     parser.add_argument("--output", type=Path, required=True, help="the folder for the wheel")

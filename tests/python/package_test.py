@@ -213,6 +213,9 @@ def test_substances_tell_what_the_database_holds():
     assert water.constants["Tkr"] == pytest.approx(647.096, rel=1e-6)  # IAPWS
     correlation = water.correlations["TENS"]
     assert correlation.t_min < 300 < correlation.t_max and len(correlation.coefficients) == 6
+    assert correlation.source and not correlation.is_estimate and velor.substances.supplement_note == ""
+    named = next(substance for substance in velor.substances if substance.further_names)
+    assert velor.substances[named.further_names[-1]] == named
     with pytest.raises(velor.UnknownSubstanceError) as told:
         velor.substances["xylen"]
     assert told.value.candidates[0] == "o-Xylen"

@@ -45,7 +45,7 @@ KNOWN: List[Known] = [
 
 
 def _told(name: str, value: str) -> None:
-    print(f"{name + ':':20}{value}")
+    print(f"{name + ':':23}{value}")
 
 
 def _version_of(package: str) -> str:
@@ -65,6 +65,7 @@ def _installation() -> None:
     if version != velor.__version__:
         raise velor.LibraryError("Knihovna a balíček nejsou téže verze.")
     _told("databáze", f"{velor.substances.path}, {len(velor.substances)} látek")
+    _told("zdroje a další jména", velor.substances.supplement_note or "v doplňku databáze")
     _told("vlastnosti", f"{len(velor.properties)} směsí, {len(velor.pure_properties)} čistých látek")
 
 

@@ -51,6 +51,10 @@ class CCorrelation(Structure):
     ]
 
 
+class CProvenance(Structure):
+    _fields_ = [("size", c_size_t), ("source", c_char_p), ("deviation", c_double), ("is_estimate", c_int)]
+
+
 class CSettings(Structure):
     _fields_ = [("size", c_size_t), ("soave", c_int), ("clamped", c_int)]
 
@@ -116,6 +120,9 @@ _FUNCTIONS: Dict[str, Tuple[Optional[Type[Any]], Tuple[Any, ...]]] = {
     "velor_constant_unit": (c_char_p, _INDEX),
     "velor_database_constant": (c_int, (c_void_p, c_int, c_int, POINTER(c_double))),
     "velor_database_correlation": (c_int, (c_void_p, c_int, c_int, POINTER(CCorrelation))),
+    "velor_database_provenance": (c_int, (c_void_p, c_int, c_int, POINTER(CProvenance))),
+    "velor_database_supplement_note": (c_char_p, (c_void_p,)),
+    "velor_database_further_name": (c_char_p, (c_void_p, c_int, c_int)),
     "velor_mixture_create": (
         c_int,
         (c_void_p, POINTER(c_int), c_int, POINTER(CSettings), POINTER(c_void_p), POINTER(CError)),

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import itertools
 import operator
 import os
 from ctypes import byref, c_double
@@ -10,7 +11,7 @@ from typing import Any, Dict, Iterator, List, Optional, Sequence, Tuple, Union
 
 from . import _errors
 from ._catalogue import pure_properties
-from ._declarations import FOUND, INTERPRETED, SEVERAL, CCorrelation, CSubstance, sized, text
+from ._declarations import FOUND, INTERPRETED, SEVERAL, CCorrelation, CProvenance, CSubstance, sized, text
 from ._library import DATABASE_PATH, Handle, library
 from ._verdicts import warn
 
@@ -30,6 +31,12 @@ class Correlation:
     coefficients : tuple of float
     t_min, t_max : float
         The range of validity [K].
+    source : str
+        Where its figures come from; empty where that is not told.
+    deviation : float
+        The largest one from the source over the range [%]; NaN where it is not known.
+    is_estimate : bool
+        Whether nothing was measured.
     """
 
     property: str
@@ -39,6 +46,9 @@ class Correlation:
     coefficients: Tuple[float, ...]
     t_min: float
     t_max: float
+    source: str
+    deviation: float
+    is_estimate: bool
 
 
 @dataclass(frozen=True)
@@ -59,6 +69,11 @@ class Substance:
     formula: str
     cas: str
     database: Database = field(repr=False)
+
+    @property
+    def further_names(self) -> Tuple[str, ...]:
+        """Names beside name and synonym by which it is found."""
+        return self.database._further_names(self)
 
     @property
     def constants(self) -> Dict[str, float]:
@@ -154,6 +169,11 @@ class Database:
         return "velor.Database()" if self._given is None else f"velor.Database({self._given!r})"
 
     @property
+    def supplement_note(self) -> str:
+        """Why sources and further names are not told, in Czech; empty where they are."""
+        return text(library().call("velor_database_supplement_note", self._handle().pointer))
+
+    @property
     def constant_units(self) -> Dict[str, str]:
         """The unit of each constant, by its key."""
         told = library()
@@ -200,12 +220,12 @@ class Database:
         return value.value
 
     def _correlation(self, substance: Substance, code: str) -> Optional[Correlation]:
-        row, correlation = pure_properties[code], sized(CCorrelation)
-        library().call(
-            "velor_database_correlation", self._handle().pointer, substance.number, row.index, byref(correlation)
-        )
+        row, correlation, provenance = pure_properties[code], sized(CCorrelation), sized(CProvenance)
+        place = self._handle().pointer, substance.number, row.index
+        library().call("velor_database_correlation", *place, byref(correlation))
         if not correlation.is_given:
             return None
+        library().call("velor_database_provenance", *place, byref(provenance))
         return Correlation(
             code,
             row.unit,
@@ -214,7 +234,15 @@ class Database:
             tuple(correlation.coefficients),
             correlation.t_min,
             correlation.t_max,
+            text(provenance.source),
+            provenance.deviation,
+            bool(provenance.is_estimate),
         )
+
+    def _further_names(self, substance: Substance) -> Tuple[str, ...]:
+        current, database = library(), self._handle().pointer
+        told = (current.call("velor_database_further_name", database, substance.number, k) for k in itertools.count())
+        return tuple(text(name) for name in itertools.takewhile(lambda name: name is not None, told))
 
 
 def _text_of(wanted: object) -> str:
