@@ -166,8 +166,9 @@ Number BasicPropertyPoint<Number>::condensing() const {
     Number sum = 0.0;
     for (std::size_t i = 0; i < count_; ++i) {
         const auto isGas = T_.kelvin() >= component(i).record().Tkr;
+        if (isAll(isGas)) continue;
         const Number Ps = pure(i, kTENS, T_);
-        sum += select(isNan(Ps), kNan, select(isGas, 0.0, x_[i] * P_ / Ps));
+        sum += select(isGas, 0.0, x_[i] * P_ / Ps + 0.0 * Ps);
     }
     return sum;
 }

@@ -22,7 +22,7 @@ struct Raoult {
 
 // Of n components (from 0). fractionAt(i) may be 0; vapourPressure(i) gives a PropertyValue in pascals; isGas(i)
 // whether i is above its critical temperature. Such a one takes part with the value of its correlation just below that
-// or, where gases are left out, not at all in what condenses. Nothing where a vapour pressure is missing.
+// or, where gases are left out, not at all. Nothing where a vapour pressure that counts is missing.
 template <class FractionAt, class VapourPressure, class IsGas>
 std::optional<Raoult> raoultSums(std::size_t n, double P, bool leavesGasesOut, const FractionAt& fractionAt,
                                  const VapourPressure& vapourPressure, const IsGas& isGas) {
@@ -30,11 +30,11 @@ std::optional<Raoult> raoultSums(std::size_t n, double P, bool leavesGasesOut, c
     for (std::size_t i = 0; i < n; ++i) {
         const double fraction = fractionAt(i);
         if (!(fraction > 0)) continue;
+        sums.hasGases = sums.hasGases || isGas(i);
+        if (isGas(i) && leavesGasesOut) continue;
         const PropertyValue Ps = vapourPressure(i);
         if (!Ps.isComputed()) return std::nullopt;
-        sums.hasGases = sums.hasGases || isGas(i);
         sums.boiling += fraction * Ps.value / P;
-        if (isGas(i) && leavesGasesOut) continue;
         sums.condensing += Ps.value > 0 ? fraction * P / Ps.value : std::numeric_limits<double>::infinity();
     }
     return sums;
