@@ -99,7 +99,9 @@ Matches wholeMatches(const SubstanceList& substances, std::string_view wanted) {
         [&](const Substance& s) { return s.formula == wanted; },
         [&](const Substance& s) { return folded(s.formula) == name; },
         [&, key = withoutSeparators(name)](const Substance& s) {
-            return std::ranges::find(s.furtherNames, key, &SubstanceName::folded) != s.furtherNames.end();
+            const auto isSpeltSo = [&](const SubstanceName& own) { return withoutSeparators(own.folded) == key; };
+            return std::ranges::find(s.furtherNames, key, &SubstanceName::folded) != s.furtherNames.end() ||
+                   std::ranges::any_of(namesOf(s), isSpeltSo);
         },
     };
     for (const Criterion& meaning : meanings)

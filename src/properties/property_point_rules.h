@@ -81,9 +81,14 @@ BasicPropertyPoint<Number>& BasicPropertyPoint<Number>::at(const Number& T, cons
 
 template <class Number>
 Number BasicPropertyPoint<Number>::value(const MixtureProperty& property, Evaluation<Number> evaluate) {
-    using numbers::finite;
+    using namespace numbers;
     standings_ = {};
-    if (property.outcome) return hasVapourPressures() ? (this->*evaluate)() : Number(numbers::kNan);
+    if (property.outcome) {
+        // Without a pressure nothing boils or condenses.
+        const auto isPressure = P_ > 0.0;
+        if (!isAll(isPressure)) standings_.takeWhere(!isPressure, Standing::Failed);
+        return hasVapourPressures() ? select(isPressure, (this->*evaluate)(), kNan) : Number(kNan);
+    }
     absence_ = 0.0;
     gather(property);
     return standings_.isComputed() ? finite((this->*evaluate)() + absence_) : Number(numbers::kNan);

@@ -21,6 +21,15 @@ std::uint32_t checkSum(std::string_view text) {
     return sum;
 }
 
+// Not known where the text is no number of this world.
+std::optional<double> deviationOf(std::string_view text) {
+    try {
+        return parseWholeNumber(text);
+    } catch (const RunTimeError&) {
+        return std::nullopt;
+    }
+}
+
 Supplement::State stateOf(std::string_view text) {
     constexpr std::string_view kAnyVersion = "VELOR.DOP ";
     if (!text.starts_with(kAnyVersion)) return Supplement::State::Damaged;
@@ -121,7 +130,7 @@ std::optional<Provenance> Supplement::provenance(std::string_view cas, int k) co
     const std::string_view code = properties[static_cast<std::size_t>(k - 1)].code;
     for (std::string_view lines = linesOf(cas); !lines.empty();) {
         const auto [own, what, source, deviation, estimate] = supplementFields(takeLine(lines));
-        if (what == code) return Provenance{std::string(source), parseWholeNumber(deviation), estimate == kEstimate};
+        if (what == code) return Provenance{std::string(source), deviationOf(deviation), estimate == kEstimate};
     }
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 // A comma-separated text whose first row names the columns.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <span>
 #include <string>
@@ -27,6 +28,7 @@ class CsvTable {
 
     // Rows with as many cells as the header.
     const std::vector<CsvRow>& rows() const { return rows_; }
+    bool has(std::string_view column) const { return std::ranges::find(header_, column) != header_.end(); }
     // Whether no row had to be left out.
     bool isComplete() const { return complete_; }
     // Empty where the table lacks the column.

@@ -12,6 +12,8 @@
 #include "baze/supplement_table.h"
 #include "records/record_file.h"
 #include "records/record_layout.h"
+#include "rules/equations.h"  // what they give inside their ranges
+#include "velor/run_time_error.h"
 #include "velor/smes.h"
 #include "velor/substances.h"
 #include "velor/text.h"
@@ -91,6 +93,21 @@ struct Change {
     std::set<int> properties;
 };
 
+// No property of a substance is negative, and none is missing inside its own range.
+std::string faultInRange(const TKorelace& block) {
+    for (int T = block.Tmin; T <= block.Tmax; ++T) {
+        const std::string at = " při " + std::to_string(T) + " K, v rozsahu Tmin až Tmax";
+        try {
+            const double value = evaluateEquation(block.Typ, block.A, static_cast<double>(T));
+            if (value < 0) return "rovnice dává zápornou hodnotu" + at;
+            if (value == kNoValue) return "rovnice nemá hodnotu" + at;
+        } catch (const RunTimeError&) {
+            return "rovnice nemá hodnotu" + at;
+        }
+    }
+    return {};
+}
+
 class OwnDatabase {
   public:
     OwnDatabase(std::string_view bytes, const Supplement& supplement) {
@@ -122,6 +139,7 @@ class OwnDatabase {
             numberOfCas_.emplace(record.CAS, number);
         } else {
             record.Korelace = records_[number].Korelace;
+            keepUntold(record, records_[number], own.untold);
         }
         requireOwnName(number, record, own.line, faults);
         records_[number] = record;
@@ -139,6 +157,8 @@ class OwnDatabase {
         if (!changes_[number].properties.insert(own.row.property).second)
             return faults.push_back(
                 {own.row.line, "vlastnost: " + Smes::ChybRozv(own.row.property) + " téže látky už v tabulce je"});
+        if (const std::string fault = faultInRange(own.row.block); !fault.empty())
+            faults.push_back({own.row.line, fault});
         records_[number].Korelace[static_cast<std::size_t>(own.row.property - 1)] = own.row.block;
         CorrelationRow row = own.row;
         row.number = number;

@@ -216,6 +216,9 @@ std::vector<OwnSubstance> readOwnSubstances(std::string_view text, int firstLine
     const auto columns = ownColumns();
     const auto table = CsvTable::read(text, columns, faults, firstLine);
     if (!table) return substances;
+    std::vector<std::string_view> untold;
+    for (const Column& column : columns)
+        if (!table->has(column.name)) untold.push_back(column.name);
     std::map<std::string, int> lineOfName;
     std::map<std::int32_t, int> lineOfCas;
     for (const CsvRow& cells : table->rows()) {
@@ -228,9 +231,15 @@ std::vector<OwnSubstance> readOwnSubstances(std::string_view text, int firstLine
         } else if (const auto [earlier, isNew] = lineOfCas.emplace(record.CAS, row.line()); !isNew) {
             row.fault("CAS", std::string(row.cell("CAS")) + " už je na řádku " + std::to_string(earlier->second));
         }
-        substances.push_back({row.line(), record});
+        substances.push_back({row.line(), record, untold});
     }
     return substances;
+}
+
+void keepUntold(TLatka& record, const TLatka& held, const std::vector<std::string_view>& untold) {
+    for (const RecordField& field : kRecordFields)
+        if (field.name != kNumber && std::ranges::find(untold, field.name) != untold.end())
+            std::visit([&](auto member) { record.*member = held.*member; }, field.member);
 }
 
 TLatka blankRecord() {

@@ -23,9 +23,13 @@ Substances readSubstances(std::string_view text, Checks checks, LineFaults& faul
 // there.
 struct OwnSubstance {
     int line = 0;
-    TLatka record;  // its number is the one of the row, 0 where there is none
+    TLatka record;                         // its number is the one of the row, 0 where there is none
+    std::vector<std::string_view> untold;  // columns that the table lacks
 };
 std::vector<OwnSubstance> readOwnSubstances(std::string_view text, int firstLine, LineFaults& faults);
+
+// What the table lacks of a substance that is there already stays as it was.
+void keepUntold(TLatka& record, const TLatka& held, const std::vector<std::string_view>& untold);
 
 // The record that stands for a number without a substance: blank texts, all else zero.
 TLatka blankRecord();

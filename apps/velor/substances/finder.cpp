@@ -28,6 +28,11 @@ std::string listed(const Matches& matches) {
 
 std::string unknownText(std::string_view wanted) { return "Látka „" + std::string(wanted) + "“ není v bázi."; }
 
+std::string withoutFurtherNames(const SubstanceList& substances) {
+    const bool hasSome = std::ranges::any_of(substances, [](const Substance& s) { return !s.furtherNames.empty(); });
+    return hasSome ? "" : "\nDalší jména látek nejsou k dispozici, doplněk .DOP vedle báze chybí nebo je nemá.";
+}
+
 std::string numbersOf(const SubstanceList& substances) {
     return " Čísla látek jsou " + std::to_string(substances.front().number) + " až " +
            std::to_string(substances.back().number) + ".";
@@ -50,7 +55,8 @@ const Substance& findSubstance(const SubstanceList& substances, std::string_view
         case Finding::NothingTyped:
             throw Failure(ExitCode::WrongUse, "Chybí číslo, název, vzorec nebo CAS látky.");
         case Finding::Unknown:
-            throw Failure(ExitCode::NothingComputed, unknownText(text) + likelyOnes(candidates));
+            throw Failure(ExitCode::NothingComputed,
+                          unknownText(text) + likelyOnes(candidates) + withoutFurtherNames(substances));
         case Finding::UnknownNumber:
             throw Failure(ExitCode::NothingComputed, unknownText(text) + numbersOf(substances));
         case Finding::Several:

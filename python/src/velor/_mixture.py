@@ -159,19 +159,28 @@ class Mixture(MixtureProperties):
     ) -> None:
         chosen = _database(database)
         wanted = [substances] if isinstance(substances, (str, int, np.integer, Substance)) else list(substances)
+        if isinstance(substances, (bytes, bytearray)):
+            raise _errors.TypeMismatchError(
+                f"Látka je číslo, název, vzorec nebo CAS, zadáno {substances!r}.", _errors.TYPE_MISMATCH
+            )
         found = tuple(chosen[one] for one in wanted)
         if not 1 <= len(found) <= 20:
             raise _errors.UsageError(f"Směs má 1 až 20 látek, zadáno jich je {len(found)}.", _errors.SUBSCRIPT)
         numbers = tuple(substance.number for substance in found)
         self._prepared = _Prepared(_Definition(numbers, chosen, bool(soave), bool(clamped)))
         self._substances = found
-        self.threads = _whole(threads)
+        self._threads = _whole(threads)
         self._composition = self._checked(mole, mass, normalised)
 
     @property
     def shape(self) -> Shape:
         """Of the points that the composition has: () for one composition."""
         return self._composition.shape
+
+    @property
+    def threads(self) -> int:
+        """Among how many threads the points of a call are shared."""
+        return self._threads
 
     @property
     def components(self) -> Tuple[Component, ...]:

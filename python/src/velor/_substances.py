@@ -204,6 +204,8 @@ class Database:
 
     def _of_number(self, wanted: Any) -> Substance:
         try:
+            if isinstance(wanted, bool):
+                raise TypeError
             number = operator.index(wanted)
         except TypeError:
             raise _errors.TypeMismatchError(

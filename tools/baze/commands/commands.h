@@ -46,6 +46,10 @@ std::string fullPath(const std::string& path);
 // Whole files; Failure names the file and the reason.
 std::string readFile(const std::string& path);
 void writeFile(const std::string& path, std::string_view content);
+// A database and the supplement beside it.
+void writeDatabase(const std::string& path, std::string_view bytes, std::string_view supplement);
+// An output that is an input is refused.
+void requireOther(const std::string& output, const std::string& input);
 // The records of a database, in the order of their numbers from 1.
 std::vector<TLatka> readRecords(const std::string& path);
 

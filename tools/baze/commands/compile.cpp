@@ -60,8 +60,7 @@ int compileFolder(const Task& task) {
         if (result.hasMoreFaults) reportThatThereAreMore();
         return kFailed;
     }
-    writeFile(task.database, result.bytes);
-    writeFile(Supplement::pathFor(task.database), result.supplement);
+    writeDatabase(task.database, result.bytes, result.supplement);
     if (!task.configuration.empty()) writeConfiguration(task);
     std::cout << task.database << ": látek " << result.substances << ", korelací " << result.correlations << '\n';
     return kDone;

@@ -18,6 +18,7 @@ struct Task {
 };
 
 int writePage(const Task& task) {
+    for (const std::string& input : {task.database, task.reasons}) requireOther(task.page, input);
     const auto records = readRecords(task.database);
     const auto look = [&](std::string_view text, LineFaults& faults) { return consistencyOf(records, text, faults); };
     LineFaults none;

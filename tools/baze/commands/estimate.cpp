@@ -80,9 +80,9 @@ void addEstimate(CLI::App& app, Action& action) {
                                                          {"--Acent", &task->known.Acent}};
     for (const auto& [name, value] : constants)
         command->add_option(name, *value, "Známá konstanta místo odhadu")->type_name("HODNOTA");
-    command->add_option("--nazev", task->name, "Název látky")->required()->type_name("TEXT");
+    command->add_option("--nazev", task->name, "Název látky")->required()->type_name("NÁZEV");
     command->add_option("--CAS", task->cas, "Registrační číslo")->required()->type_name("CAS");
-    command->add_option("--vzorec", task->formula, "Vzorec")->type_name("TEXT");
+    command->add_option("--vzorec", task->formula, "Vzorec")->type_name("VZOREC");
     command->add_option("-o,--vystup", task->target, "Tabulka pro příkaz pridej; bez ní na výstup");
     command->footer("Ke každé hodnotě vypíše autora a rok; korelace jsou označeny jako odhad.");
     command->callback([task, &action] { action = [task] { return estimate(*task); }; });

@@ -175,17 +175,39 @@ Fit chosen(const Task& task, const std::vector<MeasuredPoint>& points, const Pur
     return fits.front();
 }
 
+void requireConstants(const FitOptions& options, const std::vector<MeasuredPoint>& points, const Task& task) {
+    for (const auto& [name, value] : {std::pair("Tkr", options.Tkr), {"Pkr", options.Pkr}, {"Tnbv", task.boilingPoint}})
+        if (!(value >= 0) || !std::isfinite(value)) throw Failure(std::string("--") + name + ": má být kladné číslo");
+    for (const MeasuredPoint& point : points)
+        if (options.Tkr > 0 && options.Tkr < point.T && propertyOf(task).number >= kROLW)
+            throw Failure("--Tkr: body leží až nad kritickou teplotou");
+}
+
+// A form with too few coefficients cannot go through all of them.
+void printMissed(const Fit& fit, const FitOptions& options) {
+    constexpr double kMost = 0.01;  // %
+    for (const MeasuredPoint& point : options.through) {
+        const double missed = 100 * (evaluateEquation(fit.block.Typ, fit.block.A, point.T) / point.value - 1);
+        if (std::abs(missed) > kMost)
+            std::cout << "POZOR: zadaným bodem při " << exactText(point.T)
+                      << " K křivka neprochází, odchylka " << percent(missed) << " %.\n";
+    }
+}
+
 int fitPoints(const Task& task) {
     const PureProperty& property = propertyOf(task);
     const auto points = readTable(
         task.points, [&](std::string_view text, LineFaults& faults) { return readPoints(text, property, faults); });
     FitOptions options = task.options;
     options.through = throughPoints(task, property);
+    requireConstants(options, points, task);
+    if (!task.picture.empty()) requireOther(task.picture, task.points);
     const Fit fit = chosen(task, points, property, options);
     std::cout << property.code << ", rovnice typu " << fit.block.Typ << ": " << trimBlanks(equationText(fit.block.Typ))
               << '\n';
     printCoefficients(fit);
     printPoints(fit, points);
+    printMissed(fit, options);
     std::cout << "Směrodatná odchylka " << percent(fit.rms) << " %, největší " << percent(fit.most) << " %, AICc "
               << percent(fit.aicc) << '\n';
     if (!fit.doubt.empty()) std::cout << "POZOR: mimo body rovnice " << fit.doubt << ".\n";
@@ -215,7 +237,7 @@ void addFit(CLI::App& app, Action& action) {
     command->add_flag("--robustni", task->options.isRobust, "Odlehlé body nebudou mít váhu");
     command->add_option("--graf", task->picture, "Obrázek .svg nebo .png: body, křivka, rozsah a odchylky");
     command->add_option("--CAS", task->cas, "Registrační číslo do výsledného řádku")->type_name("CAS");
-    command->add_option("--zdroj", task->source, "Zdroj do výsledného řádku")->type_name("TEXT");
+    command->add_option("--zdroj", task->source, "Zdroj do výsledného řádku")->type_name("ZDROJ");
     command->footer(
         "Nejmenší čtverce relativních odchylek; koeficienty jsou v jednoduché přesnosti a posuzuje se, co z nich "
         "program\n"

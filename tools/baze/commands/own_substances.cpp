@@ -19,6 +19,7 @@ struct Task {
 };
 
 int add(const Task& task) {
+    requireOther(task.target, task.table);
     readRecords(task.database);  // or what it is instead
     const std::string bytes = readFile(task.database);
     const Supplement supplement = Supplement::of(task.database);
@@ -26,8 +27,7 @@ int add(const Task& task) {
         return addOwnSubstances(bytes, supplement, text, faults);
     });
     if (addition.report.empty()) throw Failure(task.table + ": tabulka neobsahuje žádnou látku ani korelaci");
-    writeFile(task.target, addition.bytes);
-    writeFile(Supplement::pathFor(task.target), addition.supplement);
+    writeDatabase(task.target, addition.bytes, addition.supplement);
     for (const std::string& sentence : addition.report) std::cout << printable(sentence) << '\n';
     if (!supplement.note().empty()) std::cerr << supplement.note() << " Nový doplněk zná jen přidané údaje.\n";
     std::cout << task.target << ": přidáno " << addition.added << ", změněno " << addition.changed << '\n';

@@ -8,6 +8,7 @@
 #include "records/record_layout.h"
 #include "shared/files.h"
 #include "velor/run_time_error.h"
+#include "velor/supplement.h"
 #include "velor/text.h"
 
 namespace velor::baze {
@@ -77,6 +78,20 @@ void writeFile(const std::string& path, std::string_view content) {
     } catch (const RunTimeError& error) {
         throw Failure(path + ": " + inCzech(error));
     }
+}
+
+void writeDatabase(const std::string& path, std::string_view bytes, std::string_view supplement) {
+    const std::string beside = Supplement::pathFor(path);
+    if (beside == path) throw Failure(path + ": konec .DOP má doplněk, báze potřebuje jiné jméno");
+    // The supplement first: with one that knows more than the database nothing is lost.
+    writeFile(beside, supplement);
+    writeFile(path, bytes);
+}
+
+void requireOther(const std::string& output, const std::string& input) {
+    std::error_code unknown;
+    if (std::filesystem::equivalent(systemPath(output), systemPath(input), unknown))
+        throw Failure(output + ": to je vstupní soubor, nebude přepsán");
 }
 
 std::vector<TLatka> readRecords(const std::string& path) {

@@ -242,7 +242,8 @@ std::string doubtOf(const TKorelace& block, const FitKnowledge& known, Property 
         const double value = valueOf(block, T);
         const std::string at = " při " + std::to_string(static_cast<int>(std::round(T))) + " K";
         if (std::isnan(value)) {
-            if (!isOfGas && T > known.most && known.Tkr <= 0) break;  // it ends at a critical temperature of its own
+            // It ends at a critical temperature of its own.
+            if (!isOfGas && T > known.most && known.Tkr <= 0) return "končí" + at + ", kritická teplota není zadána";
             return "nemá hodnotu" + at;
         }
         if (value <= 0) return "hodnota není kladná" + at;

@@ -63,7 +63,7 @@ void replaceAll(std::string& text, std::string_view from, std::string_view to) {
 
 std::string plainUnit(std::string_view unit) {
     std::string plain(unit);
-    for (const std::string_view dropped : {" ", "·", "."}) replaceAll(plain, dropped, "");
+    for (const std::string_view dropped : {" ", "·", ".", "^"}) replaceAll(plain, dropped, "");
     replaceAll(plain, "³", "3");
     return plain;
 }
@@ -89,7 +89,13 @@ class PointReader {
         std::vector<MeasuredPoint> points;
         if (rows.empty()) faults_.push_back({1, "soubor neobsahuje žádné body"});
         if (!faults_.empty() || !readHeader(rows.front())) return points;
+        const std::size_t columns = rows.front().cells.size();
         for (const CsvRow& row : std::span(rows).subspan(1)) {
+            const auto surplus = std::span(row.cells).subspan(std::min(columns, row.cells.size()));
+            if (std::ranges::any_of(surplus, [](const std::string& cell) { return !cell.empty(); })) {
+                faults_.push_back({row.line, "polí je víc než sloupců; desetinnou čárku je třeba dát do uvozovek"});
+                continue;
+            }
             const MeasuredPoint point{value(row, T_, temperature_), value(row, value_, unit_), weight(row), row.line};
             constexpr double kHottest = 10000;
             if (point.T <= 0 || point.T > kHottest) fault(row, "T", "teplota má být od 0 do 10000 K");
@@ -105,6 +111,9 @@ class PointReader {
 
   private:
     bool readHeader(const CsvRow& header) {
+        if (header.cells.size() == 1 && header.cells.front().find(';') != std::string::npos)
+            faults_.push_back({header.line, "sloupce odděluje čárka, ne středník"});
+        if (!faults_.empty()) return false;
         for (std::size_t i = 0; i < header.cells.size(); ++i) {
             const Heading heading = headingOf(header.cells[i]);
             if (heading.name == "T" || heading.name == "t") {
