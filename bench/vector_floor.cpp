@@ -37,6 +37,22 @@ void volumes(const RealGasFloor::Constants& gas, const double* t, const double* 
     }
 }
 
+void addPower(const TKorelace& block, double weight, const double* t, const double* lnT, double* sum,
+              std::size_t count) {
+    const double a = block.A[0], b = block.A[1], c = block.A[2], d = block.A[3];
+    for (std::size_t k = 0; k < count; ++k) {
+        const double square = t[k] * t[k];
+        sum[k] += weight * (a * std::exp(b * lnT[k]) * square / (square + c * t[k] + d));
+    }
+}
+
+void addPolynomial(const TKorelace& block, double weight, const double* t, double* sum, std::size_t count) {
+    double a[6] = {};
+    for (int j = 0; j <= block.Typ; ++j) a[j] = block.A[static_cast<std::size_t>(j)];
+    for (std::size_t k = 0; k < count; ++k)
+        sum[k] += weight * (a[0] + t[k] * (a[1] + t[k] * (a[2] + t[k] * (a[3] + t[k] * (a[4] + t[k] * a[5])))));
+}
+
 }  // namespace
 
 void vectorEquation(const TKorelace& block, const Points& points, Points& values) {
@@ -44,8 +60,12 @@ void vectorEquation(const TKorelace& block, const Points& points, Points& values
     const double* T = points.data();
     double* y = values.data();
     const std::size_t n = points.size();
-    const double ratio = a[0] / a[1], lnB = std::log(a[1]), inverse = 1.0 / a[2];
+    const double ratio = a[0] / a[1], lnB = std::log(a[1]), inverse = 1.0 / a[2], ln10 = std::log(10.0);
     switch (block.Typ) {
+        case 10:
+            for (std::size_t k = 0; k < n; ++k)
+                y[k] = std::exp(ln10 * (a[0] + a[1] / (a[4] + T[k]) + T[k] * (a[2] + T[k] * a[3])));
+            return;
         case 13:
             for (std::size_t k = 0; k < n; ++k) {
                 const double t = 1.0 - T[k] / a[4], cube = t * t * t;
@@ -87,13 +107,12 @@ void vectorGasViscosity(const std::vector<TLatka>& records, const std::vector<do
             sum[k] = 0.0;
         }
         for (std::size_t i = 0; i < x.size(); ++i) {
-            const auto& A = records[i].Korelace[kETAG - 1].A;
-            const double a = A[0], b = A[1], c = A[2], d = A[3];
+            const TKorelace& block = records[i].Korelace[kETAG - 1];
             const double weight = x[i] * std::sqrt(double{records[i].Mv}) / total;
-            for (std::size_t k = 0; k < count; ++k) {
-                const double square = t[k] * t[k];
-                sum[k] += weight * (a * std::exp(b * lnT[k]) * square / (square + c * t[k] + d));
-            }
+            if (block.Typ == 19)
+                addPower(block, weight, t, lnT, sum, count);
+            else
+                addPolynomial(block, weight, t, sum, count);
         }
         std::copy_n(sum, count, values.data() + first);
     });

@@ -11,10 +11,10 @@ namespace velor::bench {
 
 using Points = std::vector<double>;
 
-// A correlation of type 13, 15, 18 or 19.
+// A correlation of type 10, 13, 15, 18 or 19.
 void vectorEquation(const TKorelace& block, const Points& T, Points& values);
 
-// The viscosity of a gas (Herning and Zipperer, 1936) whose components have correlations of type 19.
+// The viscosity of a gas (Herning and Zipperer, 1936) whose components have correlations of type 19 or polynomials.
 void vectorGasViscosity(const std::vector<TLatka>& records, const std::vector<double>& x, const Points& T,
                         Points& values);
 
