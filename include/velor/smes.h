@@ -102,8 +102,8 @@ class Smes {
 
     // Where correlation k (1..10) of component i (1..count) comes from, as the supplement beside the database tells:
     // its source, with ", odhad" behind it where nothing was measured, and the largest deviation from that source, %.
-    // Where the supplement cannot be read the source is a sentence that says so. Empty where nothing is told and for i or
-    // k out of range. What VLRConst wrote they do not know.
+    // Where the supplement cannot be read the source is a sentence that says so. Empty where nothing is told and for i
+    // or k out of range. What VLRConst wrote they do not know.
     std::string Zdroj(int i, int k) const;
     Variant Odchylka(int i, int k) const;
     // The supplement itself, read when it is first asked for. It lives until the next call of these.

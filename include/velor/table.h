@@ -3,8 +3,9 @@
 // A prepared mixture never changes, so that any number of threads may use it. Nothing is shown, asked or counted, and
 // no file is read after it was made. A fault of one point leaves the others as they are: its value is NaN and its
 // verdict says why. Where the object has a value the table has the same; where the object answers 1E-8, Empty, -9999 or
-// 0 for "none", the table has NaN. A value depends on its own point only, neither on its neighbours nor on the threads; its
-// last digits may depend on the processor, whose vector instructions compute points of one composition side by side.
+// 0 for "none", the table has NaN. A value depends on its own point only, neither on its neighbours nor on the threads;
+// its last digits may depend on the processor, whose vector instructions compute points of one composition side by
+// side.
 #pragma once
 
 #include <cstddef>

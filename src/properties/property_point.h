@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cstddef>
-#include <optional>
 #include <span>
 #include <vector>
 
@@ -30,8 +29,8 @@ struct PreparedComponents {
     std::vector<PairFactor> pairs;  // of the gas's conductivity, by rows; none where a molar mass is missing
 };
 
-// Of the composition alone, all points have the same. Number is a double or Lanes: then a point of which something is
-// to be told, or that goes another way than its neighbours, has no value here, but may have one alone.
+// Number is a double or Lanes: several points of one composition, none of which depends on the others. What a rule of
+// theirs refuses or does another way has no value among them, but may have one alone.
 template <class Number>
 class BasicPropertyPoint {
   public:

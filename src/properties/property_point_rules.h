@@ -91,7 +91,7 @@ Number BasicPropertyPoint<Number>::value(const MixtureProperty& property, Evalua
     }
     absence_ = 0.0;
     gather(property);
-    return standings_.isComputed() ? finite((this->*evaluate)() + absence_) : Number(numbers::kNan);
+    return standings_.isComputed() ? finite((this->*evaluate)() + absence_) : Number(kNan);
 }
 
 // ---- Gathering ---------------------------------------------------------------------------------------------------

@@ -95,6 +95,7 @@ std::string_view Supplement::linesOf(std::string_view cas) const {
 }
 
 Supplement Supplement::of(const std::string& databasePath) {
+    if (databasePath.empty()) return {};
     constexpr std::size_t kMostBytes = 64U << 20U;  // far more than all substances that there are numbers for
     try {
         return Supplement(platform::readText(pathFor(databasePath), kMostBytes));

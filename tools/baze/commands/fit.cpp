@@ -189,8 +189,8 @@ void printMissed(const Fit& fit, const FitOptions& options) {
     for (const MeasuredPoint& point : options.through) {
         const double missed = 100 * (evaluateEquation(fit.block.Typ, fit.block.A, point.T) / point.value - 1);
         if (std::abs(missed) > kMost)
-            std::cout << "POZOR: zadaným bodem při " << exactText(point.T)
-                      << " K křivka neprochází, odchylka " << percent(missed) << " %.\n";
+            std::cout << "POZOR: zadaným bodem při " << exactText(point.T) << " K křivka neprochází, odchylka "
+                      << percent(missed) << " %.\n";
     }
 }
 
